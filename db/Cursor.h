@@ -1,0 +1,44 @@
+// db/Cursor.h
+#pragma once
+
+#include <string>
+#include <string_view>
+
+/// A running statement of the session that closes itself: the way this system reads rows.
+/// Opens with `dbExecute`, so it occupies a cursor number; construct late, let it go early.
+class Cursor {
+public:
+    /// Runs `sql`. Test the object: false when the statement could not be run (nothing reported).
+    explicit Cursor(const std::string& sql);
+    /// Closes the statement; a failed drop is reported by the session.
+    ~Cursor();
+    Cursor(const Cursor&) = delete;
+    Cursor& operator=(const Cursor&) = delete;
+
+    explicit operator bool() const { return number_ != 0; }
+    /// The session's cursor number; 0 when closed or failed.
+    short number() const { return number_; }
+
+    /// Fetches the next row; false at the end or on failure.
+    bool next();
+
+    // The current row's columns, from 1. NULL reads as 0, 0.0, empty, character 0.
+    long integer(short column) const;
+    double number(short column) const;
+    /// The whole text, however long, trailing white space, control characters and blanks removed.
+    std::string text(short column) const;
+    char letter(short column) const;
+
+    /// Rows that the statement affected, or -1.
+    long rowCount() const;
+
+    /// Closes now. 0, or -1 after the session reported the failed drop.
+    int close();
+
+private:
+    short number_;
+};
+
+/// Runs a statement that returns no rows and closes it. False when it could not be run; nothing is
+/// reported then.
+bool runStatement(const std::string& sql);
