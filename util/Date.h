@@ -4,7 +4,8 @@
 #include <compare>
 #include <string>
 
-/// A calendar day, or no day: the invalid date stands for a missing one.
+/// A calendar day, or no day: the invalid date stands for a missing one and comes before all
+/// others. The Gregorian calendar applies to all years.
 class Date {
 public:
     /// The invalid date.
@@ -18,6 +19,7 @@ public:
     bool isValid() const { return julian_ > 0; }
     /// Julian day number; 0 for the invalid date.
     long julian() const { return julian_; }
+    /// Each 0 for the invalid date.
     int day() const;
     int month() const;
     int year() const;

@@ -6,6 +6,11 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <utility>
+
+/// Bytes of the character that `text` starts with: 2 to 4 for a well-formed UTF-8 character of
+/// several bytes, 1 for any other byte, 0 for an empty text.
+std::size_t utf8Length(std::string_view text);
 
 /// The longest prefix of `text` of at most `limit` bytes that does not end inside a well-formed
 /// UTF-8 character. A byte that is part of no such character counts as a character.
@@ -13,11 +18,10 @@ std::string_view utf8Prefix(std::string_view text, std::size_t limit);
 
 /// Text of at most `Capacity` bytes, terminated: the one type of every fixed-capacity field.
 /// A longer text is cut at the last character border that fits. Never holds a NUL inside.
-template <std::size_t Capacity>
-class FixedText {
+template <std::size_t Capacity> class FixedText {
 public:
     FixedText() = default;
-    FixedText(std::string_view text) { assign(text); } // NOLINT(google-explicit-constructor)
+    FixedText(std::string_view text) { assign(text); }        // NOLINT(google-explicit-constructor)
     FixedText(const char* text) { assign(text ? text : ""); } // NOLINT(google-explicit-constructor)
     FixedText& operator=(std::string_view text)
     {

@@ -36,31 +36,36 @@ int compareIgnoringCase(std::string_view a, std::string_view b);
 /// Whether `text` contains `part`, ASCII letter case ignored.
 bool containsIgnoringCase(std::string_view text, std::string_view part);
 
-/// "%d" in a static text.
+/// `n` in decimal digits, in a static text.
 const char* intText(int n);
-/// `x` with `decimals` [0-..] decimals in a static text.
+/// `x` rounded to `decimals` [0-..] decimals in a static text. What rounds to 0 from below keeps
+/// its minus: "-0.00".
 const char* fixedText(double x, int decimals);
 /// As `fixedText` into `out`, without trailing zeros behind the point and without a final point.
+/// `out` must have room for the untrimmed text.
 void fixedTextTrim(char* out, double x, int decimals);
 /// As `fixedText`, as a string.
 std::string fixedString(double x, int decimals);
-/// 2 to the power `n` for n in 0..30; 0 for a negative `n`.
+/// 2 to the power `n` for n in 0..30; 0 for any other `n`.
 int pow2(int n);
 
 /// The number at the start of the first `n` bytes of `text`; 0 when there is none. Values beyond
-/// the result type are not defined, except that `longOf` and `longAt` give the 64-bit value.
+/// the result type are not defined, except that `longOf` and `longAt` give the 64-bit value, and
+/// beyond that its nearest end.
 float floatOf(const char* text, int n);
 int intOf(const char* text, int n);
 long longOf(const char* text, int n);
 short shortOf(const char* text, int n);
-/// The first `n` bytes of `text`, `trimRight` applied. New: the caller releases it with delete[].
+/// The first `n` bytes of `text`, ended at a character border, `trimRight` applied. New: the caller
+/// releases it with delete[].
 char* textOf(const char* text, int n);
 /// The number in the 10 bytes from `offset`; a text that ends earlier is read to its end.
 long longAt(const char* text, int offset);
 
 // Tab-separated fields. `cursor` points at the start of the next field; each reader moves it past
 // the field and its separator. After the last field of a line it stands one past the terminator,
-// so a caller reads exactly as many fields as the line has. An empty field gives 0.
+// so a caller reads exactly as many fields as the line has. A field may have any length; an empty
+// one gives 0.
 float readFloatField(const char** cursor);
 long readLongField(const char** cursor);
 int readIntField(const char** cursor);
@@ -69,6 +74,7 @@ short readShortField(const char** cursor);
 char* readTextField(const char** cursor);
 
 /// Appends blanks up to length `n`, or cuts to `n` bytes at a character border (then padded).
+/// `text` must have room for `n` bytes and the terminator.
 void padTo(char* text, int n);
 /// Removes every `c`; returns the number removed.
 int removeChar(char* text, char c);
@@ -76,8 +82,8 @@ int removeChar(char* text, char c);
 /// 0) by unsigned bytes; equal texts keep their order.
 void sortIndex(const char** texts, int* index, int lo, int hi, int descending);
 /// Splits `text` at every character of `delimiters`; `parts` must have room for each part. The
-/// parts lie in a static text. An empty part behind a final delimiter is not counted. A text of
-/// 500 bytes or more yields none.
+/// parts lie in a static text. An empty part behind a final delimiter is not counted; an empty
+/// text is one empty part. A text of 500 bytes or more yields none.
 void splitText(const char* text, char** parts, const char* delimiters, int* count);
 /// With a "." in `text`: removes trailing zeros behind it and, when `dropPoint` is not 0, a final
 /// point.
