@@ -111,6 +111,7 @@ void GList::swapUp()
     risen->newer = overtaken;
     overtaken->older = risen;
     cursor_ = overtaken;
+    ++revision_;
 }
 
 /// Makes the neighbours that `node` names, or the ends of the list, point at it.
@@ -119,6 +120,7 @@ void GList::link(ListNode* node)
     (node->older ? node->older->newer : front_) = node;
     (node->newer ? node->newer->older : back_) = node;
     ++count_;
+    ++revision_;
 }
 
 /// Takes `node` out and releases it. A cursor on it moves on: left behind it would dangle.
@@ -130,6 +132,7 @@ void GList::unlink(ListNode* node)
         cursor_ = node->newer;
     delete node;
     --count_;
+    ++revision_;
 }
 
 void* GList::Walk::next()

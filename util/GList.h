@@ -53,6 +53,9 @@ public:
     /// The number of items.
     int count() const { return count_; }
     bool isEmpty() const { return back_ == nullptr; }
+    /// Moves on with every operation that changed which items are in the list or their order: an
+    /// index kept beside the list is stale when the number is another than when it was made.
+    unsigned long revision() const { return revision_; }
 
     enum class Order { FrontToBack, BackToFront };
 
@@ -89,6 +92,7 @@ private:
     ListNode* cursor_ = nullptr;
     ListNode* current_ = nullptr;
     int count_ = 0;
+    unsigned long revision_ = 0;
 };
 
 /// A `GList` of `T`: the same operations with the item's type.
