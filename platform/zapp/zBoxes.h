@@ -8,6 +8,8 @@
 class zBox {
 public:
     virtual ~zBox() = default;
+    /// Appends a row. `text` is plain UTF-8 text, never markup; null is read as empty. The
+    /// selection stays as it is.
     virtual void add(const char* text) = 0;
     virtual int count() const = 0;
     /// The selected row, or -1.
