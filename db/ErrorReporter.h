@@ -7,9 +7,9 @@
 /// process; a re-established connection sets it back to 0.
 extern int fatalError;
 
-/// Shows `text` in a modal box. A text that contains "ORA-03113" (a lost Oracle connection) offers a
-/// reconnection and clears `fatalError`, after which the caller goes on without its cursors. A set
-/// `fatalError` disconnects and ends the process with status 1; the call does not return then.
+/// Shows `text` in a modal box. A text that contains "ORA-03113" (a lost Oracle connection) offers
+/// a reconnection and clears `fatalError`, after which the caller goes on without its cursors. A
+/// set `fatalError` disconnects and ends the process with status 1; the call does not return then.
 void reportError(const char* text);
 void reportError(const std::string& text);
 

@@ -39,7 +39,7 @@ std::string number(double x);
 std::string table(const char* name);
 std::string date(Date d);
 Date parsedDate(const char* text);
-}
+} // namespace sql
 
 /// The next free identifier: one above the largest. 1 for an empty table, and after a failed query,
 /// which is reported and not fatal.

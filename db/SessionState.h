@@ -1,0 +1,39 @@
+// db/SessionState.h
+#pragma once
+
+#include "db/Odbc.h"
+
+#include <array>
+#include <string>
+
+// What the files of the session share and nobody else sees.
+
+namespace session {
+
+inline constexpr short kLastCursor = 9;
+
+/// The process's one session. Handles that are freed are null from then on: the driver manager
+/// aborts on some calls with a handle that was freed before.
+struct State {
+    SQLHENV environment = SQL_NULL_HENV;
+    SQLHDBC connection = SQL_NULL_HDBC;
+    /// Kept whole, for reconnections.
+    std::string connectString;
+
+    /// Indexed by cursor number; entry 0 is not used. A statement outlives its number's release:
+    /// that of a failed statement holds the error text, that of a refused commit may still be read.
+    std::array<SQLHSTMT, kLastCursor + 1> statements{};
+    std::array<bool, kLastCursor + 1> open{};
+
+    /// The cursor number of the statement that failed last, 0 once its text was asked for.
+    short lastFailedCursor = 0;
+    /// Whether statements run with the driver's scan for escape clauses switched off.
+    bool noScan = true;
+};
+
+State& state();
+
+/// The statement behind a cursor number, null when there is none.
+SQLHSTMT statementOf(short cursor);
+
+} // namespace session
