@@ -26,11 +26,11 @@ public:
     /// Also writes each box to the standard error stream, for death tests to match.
     void echo() { echo_ = true; }
 
-    void start() override { }
-    void runLoop() override { }
+    void start() override {}
+    void runLoop() override {}
     void quitLoop() override { ++quits_; }
     void messageBox(zWindow* parent, const char* text, const char* caption, long style) override;
-    void stop() override { }
+    void stop() override {}
 
 private:
     zToolkit* before_;

@@ -2,8 +2,7 @@
 #pragma once
 
 /// Puts a process-wide setting back when it goes, whatever the test did or how it ended.
-template <typename T>
-class Restore {
+template <typename T> class Restore {
 public:
     explicit Restore(T& setting)
         : setting_(setting)

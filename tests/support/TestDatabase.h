@@ -1,6 +1,7 @@
 // tests/support/TestDatabase.h
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -49,12 +50,11 @@ private:
 class StatementLog {
 public:
     StatementLog();
-    ~StatementLog();
     std::vector<std::string> statements() const;
 
 private:
-    std::string path_;
-    std::string before_;
+    std::string file_;
+    std::uintmax_t start_;
 };
 
 /// Makes one driver call fail while it lives: the `n`-th (from 1) of `call` counted from its
