@@ -75,6 +75,17 @@ bool allocate(State& s)
         && odbcSucceeded(SQLAllocConnect(s.environment, &s.connection));
 }
 
+void keepConnectError(State& s)
+{
+    SQLCHAR sqlstate[6];
+    SQLINTEGER native = 0;
+    SQLSMALLINT length = 0;
+    SQLCHAR message[1024] = "";
+    if (odbcSucceeded(SQLError(s.environment, s.connection, SQL_NULL_HSTMT, sqlstate, &native,
+            message, sizeof message, &length)))
+        s.connectError = reinterpret_cast<const char*>(message);
+}
+
 bool driverConnect(const State& s)
 {
     SQLCHAR completed[500];
@@ -89,7 +100,10 @@ bool openConnection(State& s, const char* text)
         return false;
     if (text)
         s.connectString = text;
-    return driverConnect(s);
+    if (driverConnect(s))
+        return true;
+    keepConnectError(s);
+    return false;
 }
 
 } // namespace
@@ -100,6 +114,7 @@ short dbConnect(const char* text)
 {
     State& s = state();
     s.lastFailedCursor = 0;
+    s.connectError.clear();
     release(s);
     if (!openConnection(s, text)) {
         freeHandles(s);
@@ -124,3 +139,5 @@ short dbDisconnect()
 
 SQLHDBC dbConnectionHandle() { return state().connection; }
 SQLHENV dbEnvironmentHandle() { return state().environment; }
+
+const std::string& dbConnectError() { return state().connectError; }

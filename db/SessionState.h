@@ -19,6 +19,8 @@ struct State {
     SQLHDBC connection = SQL_NULL_HDBC;
     /// Kept whole, for reconnections.
     std::string connectString;
+    /// Kept when the handles that could be asked for it are freed.
+    std::string connectError;
 
     /// Indexed by cursor number; entry 0 is not used. A statement outlives its number's release:
     /// that of a failed statement holds the error text, that of a refused commit may still be read.
