@@ -54,8 +54,7 @@ void changeToTitle(char* text, std::size_t size)
     bool capital = true;
     for (std::size_t i = 0, length = 0; i < size; i += length) {
         length = utf8Length(std::string_view(text + i, size - i));
-        if (length == 1)
-            text[i] = capital ? upper(text[i]) : lower(text[i]);
+        text[i] = capital ? upper(text[i]) : lower(text[i]);
         capital = length == 1 && isSeparator(text[i]);
     }
 }
@@ -333,7 +332,7 @@ void splitText(const char* text, char** parts, const char* delimiters, int* coun
         length = utf8Length(all.substr(i));
         if (separators.find(all.substr(i, length)) == std::string_view::npos)
             continue;
-        std::memset(buffer + i, '\0', length);
+        buffer[i] = '\0';
         if (i + length < all.size())
             parts[(*count)++] = buffer + i + length;
     }

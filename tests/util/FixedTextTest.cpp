@@ -38,7 +38,7 @@ const PrefixCase kPrefixes[] = {
     {"last of all characters", "\xF4\x8F\xBF\xBFx", 3, ""},
     {"beyond the last character", "\xF4\x90\x80\x80x", 3, "\xF4\x90\x80"},
     {"broken third byte", "\xE2\x82xx", 2, "\xE2\x82"},
-    {"character unfinished at the end", "ab\xE2\x82", 3, "ab\xE2"},
+    {"character unfinished at the end", std::string_view("ab\u20AC", 4), 3, "ab\xE2"},
 };
 
 class Utf8Prefix : public testing::TestWithParam<PrefixCase> {};
@@ -57,6 +57,7 @@ TEST(FixedText, CutsAtCapacityAndCharacterBorder)
     EXPECT_EQ(text, "abc");
     text = std::string_view("x\0y", 3);
     EXPECT_EQ(text, "x");
+    EXPECT_EQ('\0', text.c_str()[2]);
     text = static_cast<const char*>(nullptr);
     EXPECT_TRUE(text.empty());
 }

@@ -124,8 +124,10 @@ TEST_P(GListOperation, LeavesOrderAndCursor)
     const ListCase& row = GetParam();
     Letters list;
     fill(list, row.start);
+    const auto revision = list.revision();
     row.change(list);
     const std::string order = row.order;
+    EXPECT_EQ(order != row.start, list.revision() != revision);
     EXPECT_EQ(order, walked(list, GList::Order::FrontToBack));
     EXPECT_EQ(std::string(order.rbegin(), order.rend()), walked(list, GList::Order::BackToFront));
     EXPECT_EQ(static_cast<int>(order.size()), list.count());

@@ -148,7 +148,7 @@ TEST(NumberText, Pow2)
 TEST(NumberText, CutDecimals)
 {
     EXPECT_STREQ("12.34", cutDecimals("12.3456", 2));
-    EXPECT_STREQ("12.3456", cutDecimals("12.3456", 4));
+    EXPECT_STREQ("12.3456", cutDecimals("12.3456 m", 4));
     EXPECT_STREQ("12.3456", cutDecimals("12.3456", 5));
     EXPECT_STREQ("12.", cutDecimals("12.3456", 0));
     EXPECT_STREQ("12", cutDecimals("12.3456", -1));
