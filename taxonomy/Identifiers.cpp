@@ -1,0 +1,28 @@
+// taxonomy/Identifiers.cpp
+#include "taxonomy/Identifiers.h"
+
+#include "db/Cursor.h"
+#include "db/ErrorReporter.h"
+
+std::optional<std::vector<long>> identifiers(const std::string& sql)
+{
+    Cursor row(sql);
+    if (!row) {
+        reportDbFailure(sql, Fatal::No);
+        return std::nullopt;
+    }
+    std::vector<long> ids;
+    while (row.next())
+        ids.push_back(row.integer(1));
+    return ids;
+}
+
+long firstIdentifier(const std::string& sql)
+{
+    Cursor row(sql);
+    if (!row) {
+        reportDbFailure(sql, Fatal::No);
+        return 0;
+    }
+    return row.next() ? row.integer(1) : 0;
+}
