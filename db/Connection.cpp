@@ -75,17 +75,6 @@ bool allocate(State& s)
         && odbcSucceeded(SQLAllocConnect(s.environment, &s.connection));
 }
 
-void keepConnectError(State& s)
-{
-    SQLCHAR sqlstate[6];
-    SQLINTEGER native = 0;
-    SQLSMALLINT length = 0;
-    SQLCHAR message[1024] = "";
-    if (odbcSucceeded(SQLError(s.environment, s.connection, SQL_NULL_HSTMT, sqlstate, &native,
-            message, sizeof message, &length)))
-        s.connectError = reinterpret_cast<const char*>(message);
-}
-
 bool driverConnect(const State& s)
 {
     SQLCHAR completed[500];
@@ -100,10 +89,7 @@ bool openConnection(State& s, const char* text)
         return false;
     if (text)
         s.connectString = text;
-    if (driverConnect(s))
-        return true;
-    keepConnectError(s);
-    return false;
+    return driverConnect(s);
 }
 
 } // namespace
@@ -117,6 +103,7 @@ short dbConnect(const char* text)
     s.connectError.clear();
     release(s);
     if (!openConnection(s, text)) {
+        s.connectError = session::errorMessage(SQL_NULL_HSTMT);
         freeHandles(s);
         return 0;
     }
@@ -124,8 +111,10 @@ short dbConnect(const char* text)
     // A driver that does not tell its name makes this a failure, but the connection stays: a caller
     // that goes on, as after a lost connection, finds it working.
     std::string driver;
-    if (!infoText(s.connection, SQL_DRIVER_NAME, driver))
+    if (!infoText(s.connection, SQL_DRIVER_NAME, driver)) {
+        s.connectError = session::errorMessage(SQL_NULL_HSTMT);
         return 0;
+    }
     if (driver == kScanningDriver)
         s.noScan = false;
     return 1;

@@ -7,28 +7,27 @@ namespace {
 
 constexpr const char* kDefaultText = "A database error has occurred.";
 
-// Longer than any result, so that the cut is ours and falls between characters.
-using Message = SQLCHAR[1024];
+} // namespace
 
-bool readError(const session::State& s, short cursor, Message& message)
+std::string session::errorMessage(SQLHSTMT statement)
 {
+    const State& s = state();
+    SQLCHAR message[1024] = "";
     SQLCHAR sqlstate[6];
     SQLINTEGER native = 0;
     SQLSMALLINT length = 0;
-    return odbcSucceeded(SQLError(s.environment, s.connection, s.statements[cursor], sqlstate,
-        &native, message, sizeof message, &length));
+    const SQLRETURN result = SQLError(s.environment, s.connection, statement, sqlstate, &native,
+        message, sizeof message, &length);
+    return odbcSucceeded(result) ? reinterpret_cast<const char*>(message) : "";
 }
-
-} // namespace
 
 const char* dbErrorText()
 {
     static FixedText<255> text;
-    text = kDefaultText;
     session::State& s = session::state();
-    Message message = "";
-    if (s.lastFailedCursor != 0 && readError(s, s.lastFailedCursor, message))
-        text = reinterpret_cast<const char*>(message);
+    const std::string message =
+        s.lastFailedCursor != 0 ? session::errorMessage(s.statements[s.lastFailedCursor]) : "";
+    text = message.empty() ? kDefaultText : message.c_str();
     s.lastFailedCursor = 0;
     return text.c_str();
 }

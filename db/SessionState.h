@@ -38,4 +38,8 @@ State& state();
 /// The statement behind a cursor number, null when there is none.
 SQLHSTMT statementOf(short cursor);
 
+/// The first message of a statement, or, for a null one, of the connection or else the environment.
+/// Empty when there is none. It is read once.
+std::string errorMessage(SQLHSTMT statement);
+
 } // namespace session
