@@ -1,6 +1,8 @@
 // tests/app/EntryTest.cpp
 #include "app/Entry.h"
 
+#include "tests/platform/zapp/Recorder.h"
+
 #include <gmock/gmock.h>
 
 #include <ostream>
@@ -12,31 +14,13 @@ using testing::ElementsAre;
 
 using Steps = std::vector<std::string>;
 
-/// Writes down what the application object asks of it.
-class StepToolkit : public zToolkit {
+class StepToolkit : public Recorder {
 public:
-    explicit StepToolkit(Steps& steps)
-        : steps_(steps)
-    {
-    }
     void start() override
     {
-        steps_.push_back("start behind a queue of " + std::to_string(messageQueueAsked));
+        Recorder::start();
+        steps.push_back("queue of " + std::to_string(messageQueueAsked));
     }
-    void prepareControls() override { steps_.emplace_back("prepare controls"); }
-    void runLoop() override
-    {
-        steps_.push_back(_app->rootWindow() ? "loop with a root window" : "loop");
-    }
-    void quitLoop() override { steps_.emplace_back("quit"); }
-    void messageBox(zWindow*, const char* text, const char*, long) override
-    {
-        steps_.emplace_back(text);
-    }
-    void stop() override { steps_.emplace_back("stop"); }
-
-private:
-    Steps& steps_;
 };
 
 class StepWindow : public RootWindow {
@@ -48,7 +32,7 @@ public:
     }
     ~StepWindow() override
     {
-        steps_.push_back(_app->rootWindow() ? "window gone but root" : "window gone");
+        steps_.push_back(_app->rootWindow() ? "window gone, still root" : "window gone");
         _app->setExitStatus(_app->exitStatus() + 1);
     }
     zWindow* window() override { return reinterpret_cast<zWindow*>(this); }
@@ -59,19 +43,13 @@ private:
 
 class Entry : public testing::Test {
 protected:
-    Entry()
-        : toolkit(steps)
-        , before(zUseToolkit(&toolkit))
-    {
-        messageQueueAsked = 0;
-    }
-    ~Entry() override { zUseToolkit(before); }
+    Entry() { messageQueueAsked = 0; }
 
     int run(const MainRoutine& routine) { return zonarisEntry(nullptr, nullptr, "", 1, routine); }
 
-    Steps steps;
     StepToolkit toolkit;
-    zToolkit* before;
+    Steps& steps = toolkit.steps;
+    const Serving serving{&toolkit};
 };
 
 TEST_F(Entry, RunsAWindowStepByStep)
@@ -85,8 +63,8 @@ TEST_F(Entry, RunsAWindowStepByStep)
     EXPECT_EQ(status, 7) << "read once the window is gone";
     EXPECT_EQ(_app, nullptr);
     EXPECT_THAT(steps,
-        ElementsAre("start behind a queue of 128", "prepare controls", "window made",
-            "loop with a root window", "window gone", "stop"));
+        ElementsAre("start", "queue of 128", "prepare", "window made", "loop with a window",
+            "window gone", "stop"));
 }
 
 TEST_F(Entry, QuitBeforeTheLoopIsHonoured)
@@ -96,8 +74,8 @@ TEST_F(Entry, QuitBeforeTheLoopIsHonoured)
         return std::make_unique<StepWindow>(steps);
     }));
     EXPECT_THAT(steps,
-        ElementsAre("start behind a queue of 128", "prepare controls", "quit", "window made",
-            "window gone", "stop"));
+        ElementsAre(
+            "start", "queue of 128", "prepare", "quit", "window made", "window gone", "stop"));
 }
 
 TEST_F(Entry, RunsNoLoopWithoutAWindow)
@@ -107,7 +85,7 @@ TEST_F(Entry, RunsNoLoopWithoutAWindow)
         return nullptr;
     }));
     EXPECT_EQ(status, 3);
-    EXPECT_THAT(steps, ElementsAre("start behind a queue of 128", "prepare controls", "stop"));
+    EXPECT_THAT(steps, ElementsAre("start", "queue of 128", "prepare", "stop"));
 }
 
 TEST_F(Entry, HandsTheStartArgumentsOver)
@@ -121,7 +99,7 @@ TEST_F(Entry, HandsTheStartArgumentsOver)
         EXPECT_EQ(app.showCommand(), 3);
         steps.emplace_back("routine");
     });
-    EXPECT_THAT(steps, ElementsAre("start behind a queue of 128", "routine", "stop"));
+    EXPECT_THAT(steps, ElementsAre("start", "queue of 128", "routine", "stop"));
 }
 
 struct LineCase {

@@ -40,14 +40,12 @@ void QtToolkit::start()
     // Qt takes over the user's locale; with a decimal comma in it no number would be read or
     // written as the database and the files have it.
     std::setlocale(LC_NUMERIC, "C");
-    // A message box may be the only window, and its closing is no wish to leave.
-    QApplication::setQuitOnLastWindowClosed(false);
 }
 
 void QtToolkit::runLoop()
 {
-    // Not QApplication::exec: its exit also closes every box that is open or opens on the way
-    // out, unread.
+    // Not QApplication::exec. It ends with the last window, which may be a message box, and its
+    // exit also closes every box that is open or opens on the way out, unread.
     QEventLoop loop;
     loop_ = &loop;
     loop.exec();

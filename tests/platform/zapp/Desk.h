@@ -1,8 +1,8 @@
 // tests/platform/zapp/Desk.h
 #pragma once
 
-#include "platform/zapp/zApp.h"
 #include "platform/zapp/zBoxes.h"
+#include "tests/platform/zapp/Recorder.h"
 
 #include <functional>
 #include <memory>
@@ -39,19 +39,12 @@ std::unique_ptr<Desk> makeDesk();
 struct DeskWithApp {
     DeskWithApp()
         : desk(makeDesk())
-        , before(zUseToolkit(&desk->toolkit()))
+        , serving(&desk->toolkit())
         , app(std::make_unique<zApp>(nullptr, nullptr, "", 1))
     {
     }
-    ~DeskWithApp()
-    {
-        app.reset();
-        zUseToolkit(before);
-    }
-    DeskWithApp(const DeskWithApp&) = delete;
-    DeskWithApp& operator=(const DeskWithApp&) = delete;
 
     std::unique_ptr<Desk> desk;
-    zToolkit* before;
+    Serving serving;
     std::unique_ptr<zApp> app;
 };

@@ -1,44 +1,14 @@
 // tests/platform/zapp/ZAppTest.cpp
-#include "platform/zapp/zApp.h"
 #include "platform/zapp/ConsoleToolkit.h"
+#include "tests/platform/zapp/Recorder.h"
 
 #include <gmock/gmock.h>
 
 #include <string>
-#include <vector>
 
 namespace {
 
 using testing::ElementsAre;
-
-/// Writes down what it is asked for.
-class Recorder : public zToolkit {
-public:
-    void start() override { calls.push_back(_app ? "start late" : "start"); }
-    void prepareControls() override { calls.emplace_back("prepare"); }
-    void runLoop() override { calls.emplace_back("loop"); }
-    void quitLoop() override { calls.emplace_back("quit"); }
-    void messageBox(zWindow* parent, const char* text, const char*, long style) override
-    {
-        calls.push_back(std::string(parent ? "child " : "orphan ") + text);
-        calls.push_back(std::to_string(style));
-    }
-    void stop() override { calls.push_back(_app ? "stop early" : "stop"); }
-
-    std::vector<std::string> calls;
-};
-
-/// The toolkit of the process for a while.
-struct Serving {
-    explicit Serving(zToolkit* toolkit)
-        : before(zUseToolkit(toolkit))
-    {
-    }
-    ~Serving() { zUseToolkit(before); }
-    Serving(const Serving&) = delete;
-    Serving& operator=(const Serving&) = delete;
-    zToolkit* before;
-};
 
 TEST(ApplicationObject, IsPublishedWhileItLives)
 {
@@ -48,21 +18,6 @@ TEST(ApplicationObject, IsPublishedWhileItLives)
         EXPECT_EQ(_app, &app);
     }
     EXPECT_EQ(_app, nullptr);
-}
-
-TEST(ApplicationObject, KeepsItsStartArguments)
-{
-    int instance = 0;
-    int previous = 0;
-    std::string line = "geo.dat";
-    zApp app(&instance, &previous, line.c_str(), 3);
-    line = "overwritten";
-    EXPECT_EQ(app.instance(), &instance);
-    EXPECT_EQ(app.previousInstance(), &previous);
-    EXPECT_STREQ(app.commandLine(), "geo.dat");
-    EXPECT_EQ(app.showCommand(), 3);
-    EXPECT_EQ(app.exitStatus(), 0);
-    EXPECT_EQ(app.rootWindow(), nullptr);
 }
 
 TEST(ApplicationObject, HandsOverToItsToolkit)
@@ -81,8 +36,8 @@ TEST(ApplicationObject, HandsOverToItsToolkit)
         app.setRootWindow(reinterpret_cast<zWindow*>(&window));
         zMessage(app.rootWindow(), "b", "c", MB_ICONHAND);
     }
-    EXPECT_THAT(recorder.calls,
-        ElementsAre("start", "prepare", "loop", "quit", "orphan a", "0", "child b", "16", "stop"));
+    EXPECT_THAT(recorder.steps,
+        ElementsAre("start", "prepare", "loop", "quit", "0 a", "16 b with a window", "stop"));
 }
 
 TEST(ApplicationObject, StopsTheToolkitThatItStarted)
@@ -95,8 +50,8 @@ TEST(ApplicationObject, StopsTheToolkitThatItStarted)
         EXPECT_EQ(zUseToolkit(&second), &first);
         app.quit();
     }
-    EXPECT_THAT(first.calls, ElementsAre("start", "stop"));
-    EXPECT_THAT(second.calls, ElementsAre("quit"));
+    EXPECT_THAT(first.steps, ElementsAre("start", "stop"));
+    EXPECT_THAT(second.steps, ElementsAre("quit"));
 }
 
 TEST(Console, ServesWithoutAChoice)
