@@ -1,0 +1,73 @@
+// platform/desktopdb/Entry.h
+#pragma once
+
+#include "platform/desktopdb/Registry.h"
+#include "platform/desktopdb/TestAids.h"
+
+#include <new>
+#include <string_view>
+
+namespace desktopdb {
+
+// What every entry point does around its work: find the handle, clear its diagnostics, let a
+// test's fault strike, keep exceptions from leaving the library.
+
+template <class Work> SQLRETURN guarded(Diagnostics& diagnostics, Work work)
+try {
+    return work();
+} catch (const std::bad_alloc&) {
+    return diagnostics.fail("HY001", "out of memory");
+} catch (const std::exception& e) {
+    return diagnostics.fail("HY000", e.what());
+}
+
+template <class Work> SQLRETURN onEnvironment(SQLHENV handle, const char* function, Work work)
+{
+    Environment* environment = environments().find(handle);
+    if (!environment)
+        return SQL_INVALID_HANDLE;
+    environment->diagnostics.clear();
+    Failure failure;
+    if (isFaulty(function, failure))
+        return environment->diagnostics.fail(failure);
+    return guarded(environment->diagnostics, [&] { return work(*environment); });
+}
+
+/// `counts`: whether the call counts for faults.
+template <class Work>
+SQLRETURN onConnection(SQLHDBC handle, const char* function, Work work, bool counts = true)
+{
+    Connection* connection = connections().find(handle);
+    if (!connection)
+        return SQL_INVALID_HANDLE;
+    connection->diagnostics().clear();
+    Failure failure;
+    if (counts && !connection->isHidden() && isFaulty(function, failure))
+        return connection->diagnostics().fail(failure);
+    return guarded(connection->diagnostics(), [&] { return work(*connection); });
+}
+
+template <class Work> SQLRETURN onStatement(SQLHSTMT handle, const char* function, Work work)
+{
+    Statement* statement = statements().find(handle);
+    if (!statement)
+        return SQL_INVALID_HANDLE;
+    statement->diagnostics().clear();
+    Failure failure;
+    if (!statement->connection().isHidden() && isFaulty(function, failure))
+        return statement->diagnostics().fail(failure);
+    return guarded(statement->diagnostics(), [&] { return work(*statement); });
+}
+
+/// A text argument and its length, which may be SQL_NTS. False when the length is impossible.
+inline bool readText(const SQLCHAR* text, SQLINTEGER length, std::string_view& out)
+{
+    const auto* bytes = reinterpret_cast<const char*>(text);
+    if (!bytes || (length < 0 && length != SQL_NTS))
+        return false;
+    out = length == SQL_NTS ? std::string_view(bytes)
+                            : std::string_view(bytes, static_cast<size_t>(length));
+    return true;
+}
+
+} // namespace desktopdb
