@@ -1,0 +1,168 @@
+// app/shell/OpenDatabase.cpp
+#include "app/shell/OpenDatabase.h"
+
+#include "app/shell/DriverLibrary.h"
+#include "db/Connection.h"
+#include "db/CurrentUser.h"
+#include "db/Cursor.h"
+#include "db/Literals.h"
+#include "db/SchemaInspection.h"
+#include "db/Session.h"
+#include "schema/Schema.h"
+#include "store/Create.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the literals of dates rely on where the database takes them as texts.
+constexpr const char* kDateFormat = "ALTER SESSION SET NLS_DATE_FORMAT='ddmmyyyy' ";
+
+bool isOracle(int kind) { return kind == 2 || kind == 3; }
+
+std::string fieldProblem(const ConnectionSettings& settings)
+{
+    if (settings.databaseFile.empty() == settings.connectString.empty())
+        return "Name either a database file or a connection string.";
+    if (settings.ownerPrefix.size() > decltype(ownerPrefix)::capacity())
+        return "The owner prefix \"" + settings.ownerPrefix + "\" has more than 50 bytes.";
+    if (settings.user.size() > decltype(currentUserAbr)::capacity())
+        return "The user abbreviation \"" + settings.user + "\" has more than 5 bytes.";
+    return {};
+}
+
+void applySettings(const ConnectionSettings& settings)
+{
+    dbKind = settings.kind;
+    ownerPrefix = settings.ownerPrefix;
+    currentUserAbr = settings.user;
+    currentUserId = 0;
+}
+
+std::string reason()
+{
+    return dbConnectError().empty() ? std::string("The driver gave no reason.") : dbConnectError();
+}
+
+std::string connectString(const std::string& text)
+{
+    if (dbConnect(text.c_str()) == 1)
+        return {};
+    dbDisconnect();
+    return "Could not connect with " + withoutSecrets(text) + "\n" + withoutSecrets(reason());
+}
+
+std::string connectFile(const ConnectionSettings& settings, FileAccess access)
+{
+    std::string error;
+    const std::string driver = driverLibrary(&error);
+    if (driver.empty())
+        return error;
+    const std::string text =
+        embeddedConnectString(driver, settings.databaseFile, settings.kind, access);
+    return connectString(text);
+}
+
+std::string setDateFormat(int kind)
+{
+    if (!isOracle(kind) || runStatement(kDateFormat))
+        return {};
+    return std::string("The date format of the session could not be set: ") + dbErrorText();
+}
+
+// A user that USERDEF does not know keeps the abbreviation and has number 0.
+std::string findUser(const std::string& abbreviation)
+{
+    if (abbreviation.empty())
+        return {};
+    const std::string select =
+        "SELECT user_id FROM " + sql::table("USERDEF") + " WHERE abr=" + sql::quote(abbreviation);
+    Cursor rows(select);
+    if (!rows)
+        return "The user could not be looked up: " + select + "\n" + dbErrorText();
+    if (rows.next())
+        currentUserId = static_cast<int>(rows.integer(1));
+    return {};
+}
+
+std::string versionProblem(const std::string& file)
+{
+    if (!tableExists("WELLS"))
+        return file + " holds no tables of this program. Make a database with: zonaris create FILE";
+    Cursor rows("SELECT max(version) FROM " + sql::table("SCHEMA_INFO"));
+    const long version = rows.next() ? rows.integer(1) : 0;
+    if (version <= kSchemaVersion)
+        return {};
+    return file + " has tables of version " + std::to_string(version)
+        + "; this program knows versions up to " + std::to_string(kSchemaVersion)
+        + ". Use a newer program.";
+}
+
+std::string missingFileProblem(const std::string& file)
+{
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    if (!fs::exists(status))
+        return "There is no database file " + file + ". Make one with: zonaris create " + file;
+    return fs::is_directory(status) ? file + " is a folder, not a database file." : std::string();
+}
+
+std::string afterConnect(const ConnectionSettings& settings)
+{
+    std::string error = setDateFormat(settings.kind);
+    if (error.empty() && !settings.databaseFile.empty())
+        error = versionProblem(settings.databaseFile);
+    if (error.empty())
+        error = findUser(settings.user);
+    if (!error.empty())
+        dbDisconnect();
+    return error;
+}
+
+void removeFile(const std::string& file)
+{
+    std::error_code ignored;
+    for (const char* suffix : {"", "-wal", "-shm", "-journal"})
+        fs::remove(file + suffix, ignored);
+}
+
+} // namespace
+
+std::string openDatabase(const ConnectionSettings& settings)
+{
+    std::string error = fieldProblem(settings);
+    if (error.empty() && !settings.databaseFile.empty())
+        error = missingFileProblem(settings.databaseFile);
+    if (!error.empty())
+        return error;
+    applySettings(settings);
+    error = settings.databaseFile.empty() ? connectString(settings.connectString)
+                                          : connectFile(settings, FileAccess::Open);
+    return error.empty() ? afterConnect(settings) : error;
+}
+
+std::string createDatabaseFile(const ConnectionSettings& settings)
+{
+    if (settings.databaseFile.empty())
+        return "Name the database file to create.";
+    std::string error = fieldProblem(settings);
+    if (!error.empty())
+        return error;
+    std::error_code ignored;
+    if (fs::exists(fs::symlink_status(settings.databaseFile, ignored)))
+        return settings.databaseFile + " is there already; it was left as it is.";
+    applySettings(settings);
+    error = connectFile(settings, FileAccess::Create);
+    if (error.empty())
+        error = createDatabase();
+    if (error.empty())
+        error = afterConnect(settings);
+    if (error.empty())
+        return {};
+    dbDisconnect();
+    removeFile(settings.databaseFile);
+    return error;
+}
