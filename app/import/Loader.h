@@ -1,0 +1,35 @@
+// app/import/Loader.h
+#pragma once
+
+#include "store/Outcome.h"
+
+#include <memory>
+#include <string>
+
+class CellReader;
+class ImportContext;
+struct InputFile;
+
+/// Checks and stores the rows of one kind of file. One loader serves all files of its kind of an
+/// import, first to check them all, then to store them all: `check` sees every row twice and must
+/// decide the same way both times.
+class RowLoader {
+public:
+    virtual ~RowLoader() = default;
+
+    /// What is wrong with the columns that a file has; empty when nothing is.
+    virtual std::string columnProblem(const InputFile&) const { return {}; }
+    /// Reads the row into the loader and tells the file's report what it adjusts or refuses. False
+    /// only when the database could not be asked (`error`).
+    virtual bool check(CellReader& cells) = 0;
+    /// Stores the row that was checked last and not refused.
+    virtual Outcome store() = 0;
+
+    const std::string& error() const { return error_; }
+
+protected:
+    std::string error_;
+};
+
+std::unique_ptr<RowLoader> makeWellsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeSamplesLoader(ImportContext& context);

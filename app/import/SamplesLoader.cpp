@@ -1,0 +1,196 @@
+// app/import/SamplesLoader.cpp
+#include "app/import/Cells.h"
+#include "app/import/ImportContext.h"
+#include "app/import/Loader.h"
+#include "db/Units.h"
+#include "store/SampleWriter.h"
+#include "well/SampleType.h"
+
+#include <cmath>
+#include <unordered_map>
+
+namespace {
+
+class SamplesLoader : public RowLoader {
+public:
+    explicit SamplesLoader(ImportContext& context)
+        : context_(context)
+        , writer_(context.writing)
+    {
+    }
+
+    std::string columnProblem(const InputFile& file) const override
+    {
+        const bool hasDepth = file.has(samples::Top) || file.has(samples::Base);
+        return hasDepth ? "" : "has no column top_depth or base_depth";
+    }
+
+    bool check(CellReader& cells) override
+    {
+        record_ = SampleRecord();
+        code_.clear();
+        well_ = nullptr;
+        if (cells.key(samples::WellCode, &code_) == Cell::Good && !findWell(cells))
+            return false;
+        readDepths(cells);
+        readTexts(cells);
+        readGrid(cells);
+        if (cells.report().refused())
+            return true;
+        if (takeFileId(cells))
+            refuseRepeated(cells);
+        return true;
+    }
+
+    Outcome store() override
+    {
+        long id = 0;
+        const Outcome outcome = writer_.put(record_, &id);
+        if (outcome == Outcome::Failed) {
+            error_ = writer_.error();
+            return outcome;
+        }
+        seen_[key_].databaseId = id;
+        if (fileId_)
+            fileId_->databaseId = id;
+        return outcome;
+    }
+
+private:
+    bool findWell(CellReader& cells)
+    {
+        if (!context_.findWell(code_, &well_)) {
+            error_ = context_.error();
+            return false;
+        }
+        if (well_)
+            record_.wellId = well_->id;
+        else
+            cells.refuse(samples::WellCode,
+                "no such well in the database or among the accepted rows of wells files");
+        return true;
+    }
+
+    // What a depth without a unit of its own is in.
+    char unitsOfRow(CellReader& cells, Cell rowState, char rowUnits) const
+    {
+        if (rowState == Cell::Good)
+            return rowUnits;
+        cells.report().noteOnce(
+            "", "", "depths without a unit are taken to be in the units of their well");
+        return well_ ? well_->units : 'M';
+    }
+
+    void readDepths(CellReader& cells)
+    {
+        char rowUnits = 0;
+        const Cell rowState = cells.units(samples::Units, &rowUnits);
+        const auto read = [&](int column, std::optional<double>* out) {
+            double value = 0;
+            char units = 0;
+            if (cells.depth(column, &value, &units) != Cell::Good)
+                return;
+            if (!units)
+                units = unitsOfRow(cells, rowState, rowUnits);
+            *out = units == 'F' ? value * kMetresPerFoot : value;
+        };
+        read(samples::Top, &record_.top);
+        read(samples::Base, &record_.base);
+        judgeDepths(cells);
+    }
+
+    void judgeDepths(CellReader& cells)
+    {
+        const auto& [top, base] = std::tie(record_.top, record_.base);
+        const auto isZero = [](const std::optional<double>& depth) {
+            return depth && std::abs(*depth) < kAbsentDepth;
+        };
+        if (!top && !base)
+            cells.report().adjust("", "", "has no depth; stored without one");
+        else if (isZero(top) || isZero(base))
+            cells.adjust(isZero(top) ? samples::Top : samples::Base,
+                "stored, but a depth of 0 counts as absent");
+        else if (top && base && well_ && (well_->type == 'O' ? *base > *top : *base < *top))
+            cells.refuse(samples::Base, "the base lies above the top");
+    }
+
+    void readTexts(CellReader& cells)
+    {
+        if (cells.sampleType(samples::Type, &record_.type) == Cell::Empty)
+            cells.adjust(samples::Type,
+                "no sample type; stored as " + std::string(kDefaultSampleType) + " (cuttings)");
+        cells.text(samples::Label, &record_.label);
+    }
+
+    void readGrid(CellReader& cells)
+    {
+        const auto read = [&](int column, std::optional<Value>* out) {
+            long value = 0;
+            const Cell state = cells.whole(column, &value);
+            if (state == Cell::Good)
+                *out = value;
+            else if (state == Cell::Empty)
+                *out = Value();
+        };
+        read(samples::GridX, &record_.gridX);
+        read(samples::GridY, &record_.gridY);
+    }
+
+    // The number that the file gives the row must be its alone, or rows of other files that name it
+    // would not know which is meant.
+    bool takeFileId(CellReader& cells)
+    {
+        fileId_ = nullptr;
+        const std::string id(cells.raw(samples::Id));
+        if (id.empty())
+            return true;
+        const RowPlace place{&cells.file(), cells.line()};
+        FileIds& ids = context_.ids("samples", cells.file().set);
+        const auto [known, isNew] = ids.try_emplace(id, FileId{place, 0});
+        if (!isNew && known->second.place != place) {
+            cells.refuse(samples::Id,
+                "this number is in " + known->second.place.seenFrom(cells.file()) + " already");
+            return false;
+        }
+        fileId_ = &known->second;
+        return true;
+    }
+
+    // The number of a repeated row stands for the sample that is stored already.
+    void refuseRepeated(CellReader& cells)
+    {
+        const RowPlace place{&cells.file(), cells.line()};
+        key_ = storedText(code_) + '\n' + sampleKey(record_);
+        const auto [first, isNew] = seen_.try_emplace(key_, Seen{place, 0});
+        if (isNew || first->second.place == place)
+            return;
+        if (fileId_)
+            fileId_->databaseId = first->second.databaseId;
+        cells.report().refuse("", "",
+            "the same well, depths, type and label are in "
+                + first->second.place.seenFrom(cells.file()) + " already");
+    }
+
+    struct Seen {
+        RowPlace place;
+        long databaseId;
+    };
+
+    ImportContext& context_;
+    SampleWriter writer_;
+    std::unordered_map<std::string, Seen> seen_; // by well code and natural key
+
+    // The row at hand.
+    SampleRecord record_;
+    std::string code_;
+    std::string key_;
+    const KnownWell* well_ = nullptr;
+    FileId* fileId_ = nullptr;
+};
+
+} // namespace
+
+std::unique_ptr<RowLoader> makeSamplesLoader(ImportContext& context)
+{
+    return std::make_unique<SamplesLoader>(context);
+}
