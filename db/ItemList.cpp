@@ -70,12 +70,13 @@ void ItemList::load(const char* table, const char* idColumn, const char* textCol
 
 void ItemList::add(Item* item, Item* before)
 {
-    if (!before && sorted) {
+    if (before || !sorted) {
+        insert(before, item);
+    } else {
         const auto greater = std::find_if(
             begin(), end(), [item](const Item* other) { return textPrecedes(*item, *other); });
-        before = greater == end() ? nullptr : *greater;
+        insertAt(greater.node(), item);
     }
-    insert(before, item);
     ++count;
 }
 

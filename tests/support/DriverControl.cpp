@@ -16,7 +16,7 @@ public:
     Record()
         : file_(workspace::newFile("statements.txt"))
     {
-        driver_control::connection().setAttribute(driver_control::kRecord, file_);
+        driver_control::connection().setAttribute(SQL_ATTR_DESKTOPDB_RECORD, file_);
     }
     ~Record()
     {

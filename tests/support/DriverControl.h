@@ -1,18 +1,13 @@
 // tests/support/DriverControl.h
 #pragma once
 
+#include "platform/desktopdb/TestControl.h"
 #include "tests/support/OdbcConnection.h"
 
 #include <string>
 
-/// The embedded driver's own switches for tests, which act on the whole process.
+/// The embedded driver's own switches for tests: its attributes, set for the whole process.
 namespace driver_control {
-
-// Connection attributes.
-inline constexpr SQLINTEGER kFault = 30001;     // text: which call is to fail; empty: none
-inline constexpr SQLINTEGER kFired = 30002;     // to read: the function that failed; empty: not yet
-inline constexpr SQLINTEGER kRecord = 30003;    // text: the file that statements are appended to
-inline constexpr SQLINTEGER kInvisible = 30004; // 1: faults and recorder pass this connection by
 
 /// The connection string for a database file, made when it is not there; `dialect` is "Oracle" or
 /// "Access".

@@ -1,7 +1,7 @@
 // tests/support/OdbcConnection.cpp
 #include "tests/support/OdbcConnection.h"
 
-#include "tests/support/DriverControl.h"
+#include "platform/desktopdb/TestControl.h"
 
 #include <array>
 
@@ -38,7 +38,7 @@ OdbcConnection::OdbcConnection(const std::string& connectString)
     check(SQLDriverConnect(connection_, nullptr, bytes(connectString), SQL_NTS, nullptr, 0, nullptr,
               SQL_DRIVER_NOPROMPT),
         SQL_HANDLE_DBC, connection_, connectString);
-    setAttribute(driver_control::kInvisible, SQLULEN{1});
+    setAttribute(SQL_ATTR_DESKTOPDB_HIDDEN, SQLULEN{1});
 }
 
 OdbcConnection::~OdbcConnection()

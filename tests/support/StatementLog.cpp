@@ -14,6 +14,18 @@ std::uintmax_t sizeOf(const std::string& file)
     return none ? 0 : size;
 }
 
+// The recorder keeps a statement on one line.
+std::string unescaped(const std::string& line)
+{
+    std::string text;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const bool escape = line[i] == '\\' && i + 1 < line.size();
+        const char c = escape ? line[++i] : line[i];
+        text += !escape ? c : c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c;
+    }
+    return text;
+}
+
 } // namespace
 
 StatementLog::StatementLog()
@@ -28,6 +40,6 @@ std::vector<std::string> StatementLog::statements() const
     in.seekg(static_cast<std::streamoff>(start_));
     std::vector<std::string> statements;
     for (std::string line; std::getline(in, line);)
-        statements.push_back(line);
+        statements.push_back(unescaped(line));
     return statements;
 }
