@@ -17,6 +17,7 @@ struct BatchOptions {
     bool strict = false;             ///< import: refused rows are a failure
     std::string well;                ///< samples: code, name or number
     char units = 0;                  ///< samples: 'M', 'F', or 0 for the units of the well
+    std::string picture;             ///< None: save the window as this PNG file and end
 };
 
 // Exit statuses of the program.

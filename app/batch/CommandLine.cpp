@@ -110,6 +110,8 @@ std::optional<int> readCommandLine(int argc, const char* const* argv, BatchOptio
     addImport(app, options);
     addCommand(app.add_subcommand("wells", "List the wells"), BatchCommand::Wells, options);
     addSamples(app, options, &units);
+    // For the pictures in documents; no group hides it from the help.
+    app.add_option("--screenshot", options->picture)->type_name("FILE.png")->group("");
     try {
         app.parse(argc, argv);
         checkTogether(options, newFile);

@@ -1,0 +1,15 @@
+// app/OpenMainWindow.h
+#pragma once
+
+#include "app/Entry.h"
+#include "app/shell/ConnectionSettings.h"
+
+/// Runs the program with its main window, on the database that `settings` names or, when they name
+/// none, without one until the user opens one. Returns the exit status of the process: 1 when the
+/// database could not be opened, which a message box said.
+int openMainWindow(const StartArguments& start, const ConnectionSettings& settings);
+
+/// Makes the same window, saves it as a PNG file, for pictures in documents, and returns: 1 when
+/// the database could not be opened or the file not be written.
+int saveMainWindow(const StartArguments& start, const ConnectionSettings& settings,
+    const std::string& pictureFile);

@@ -1,0 +1,8 @@
+// app/window/TableLook.h
+#pragma once
+
+class QTableView;
+
+/// What the tables of the window have in common: read only, close rows, no wrapping, Tab leaves the
+/// table for the next pane.
+void lookLikeTable(QTableView& table);

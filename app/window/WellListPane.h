@@ -1,0 +1,50 @@
+// app/window/WellListPane.h
+#pragma once
+
+#include "app/window/WellFilter.h"
+#include "app/window/WellListModel.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+class QTableView;
+
+/// The list of the wells with the field that searches it. Searching never changes which well is
+/// chosen: one that the search hides stays chosen, and is marked again when it comes back.
+class WellListPane : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit WellListPane(QWidget* parent = nullptr);
+
+    /// Shows these wells. The chosen one stays chosen when it is among them, else the first of the
+    /// list is. Emits `wellChosen` either way.
+    void setWells(std::vector<WellName> wells);
+
+    /// Puts the keyboard into the search field.
+    void startSearch();
+
+    QTableView& list() const { return *list_; }
+
+signals:
+    /// The user chose a well; 0 when there is none to choose.
+    void wellChosen(long well_id);
+
+private:
+    void search(const QString& text);
+    void enterList();
+    void clearSearch();
+    void choose(const QModelIndex& row);
+    void markChosen();
+    QModelIndex rowOf(long well_id) const;
+    void countRows();
+
+    WellListModel wells_;
+    WellFilter found_;
+    QLineEdit* field_;
+    QLabel* count_;
+    QTableView* list_;
+    long chosen_ = 0;
+    bool marking_ = false; // rows change under the list; what it makes current is no choice
+};
