@@ -4,6 +4,15 @@
 #include "db/Cursor.h"
 #include "db/ErrorReporter.h"
 
+std::vector<long> takeIdentifiers(Cursor& row)
+{
+    std::vector<long> ids;
+    while (row.next())
+        ids.push_back(row.integer(1));
+    row.close();
+    return ids;
+}
+
 std::optional<std::vector<long>> identifiers(const std::string& sql)
 {
     Cursor row(sql);
@@ -11,10 +20,7 @@ std::optional<std::vector<long>> identifiers(const std::string& sql)
         reportDbFailure(sql, Fatal::No);
         return std::nullopt;
     }
-    std::vector<long> ids;
-    while (row.next())
-        ids.push_back(row.integer(1));
-    return ids;
+    return takeIdentifiers(row);
 }
 
 long firstIdentifier(const std::string& sql)

@@ -164,11 +164,11 @@ public:
     /// it. Null when there are none.
     static TaxonList* synonymsOf(long sch_id, long pref);
 
-    /// The taxa that match the LIKE patterns ("%" matches everything, an empty pattern nothing) and
-    /// have a code from `codeFrom` to `codeTo` (both 0: any; one 0: the other), in order of their
-    /// names. Species that are a synonym in any scheme are left out unless `includeSynonyms`. The
-    /// patterns lose trailing blanks, and that of the category becomes upper case. New: the caller
-    /// deletes it. A failed search ends the process.
+    /// The taxa that match the LIKE patterns ("%" matches everything, as null does, an empty
+    /// pattern nothing) and have a code from `codeFrom` to `codeTo` (both 0: any; one 0: the
+    /// other), in order of their names. Species that are a synonym in any scheme are left out
+    /// unless `includeSynonyms`. The patterns lose trailing blanks, and that of the category
+    /// becomes upper case. New: the caller deletes it. A failed search ends the process.
     static TaxonList* searchTaxa(char* category, char* genus, char* subgenus, char* species,
         char* subspecies, int includeSynonyms, long codeFrom, long codeTo);
 

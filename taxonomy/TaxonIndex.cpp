@@ -25,7 +25,7 @@ std::size_t TaxonIndex::placeFor(const List& list, int mode, const Taxon& taxon)
     const auto standsBehind = [mode, &taxon](const GList::ListNode* node) {
         return taxonOrder::standsBehind(mode, taxonOf(node), taxon);
     };
-    const auto place = isOrdered(mode)
+    const auto place = isOrderedFor(taxonOrder::insertionOrder(mode), taxon)
         ? std::partition_point(nodes_.begin(), nodes_.end(), std::not_fn(standsBehind))
         : std::find_if(nodes_.begin(), nodes_.end(), standsBehind);
     return static_cast<std::size_t>(place - nodes_.begin());
@@ -47,7 +47,7 @@ void TaxonIndex::follow(const List& list, int mode, std::size_t place, GList::Li
         return; // which of the two comes first is left to the next refresh
     nodes_.insert(nodes_.begin() + static_cast<std::ptrdiff_t>(place), node);
     enter(&taxonOf(node));
-    if (mode != orderedBy_)
+    if (taxonOrder::insertionOrder(mode) != orderedBy_)
         orderedBy_ = taxonOrder::unset;
     revision_ = list.revision();
 }
@@ -59,6 +59,7 @@ void TaxonIndex::refresh(const List& list)
     nodes_.clear();
     firstOf_.clear();
     orderedBy_ = taxonOrder::unset;
+    plainCategories_ = true;
     for (auto entry = list.begin(); entry != list.end(); ++entry) {
         nodes_.push_back(entry.node());
         enter(*entry);
@@ -70,20 +71,22 @@ void TaxonIndex::refresh(const List& list)
 void TaxonIndex::enter(Taxon* taxon)
 {
     taxon->listed_ = true;
+    plainCategories_ = plainCategories_ && taxonOrder::isPlainCategory(*taxon);
     firstOf_.try_emplace(taxon->spec_id(), taxon);
 }
 
-/// Whether the entries are in an order that allows a search by halves.
-bool TaxonIndex::isOrdered(int mode)
+/// Whether the entries are in an order in which the place of `taxon` can be searched by halves.
+bool TaxonIndex::isOrderedFor(int order, const Taxon& taxon)
 {
-    if (!taxonOrder::isConsistent(mode))
+    if (order == taxonOrder::byCategory
+        && !(plainCategories_ && taxonOrder::isPlainCategory(taxon)))
         return false;
-    if (orderedBy_ != mode) {
-        const auto misplaced = [mode](const GList::ListNode* a, const GList::ListNode* b) {
-            return taxonOrder::standsBehind(mode, taxonOf(a), taxonOf(b));
+    if (orderedBy_ != order) {
+        const auto misplaced = [order](const GList::ListNode* a, const GList::ListNode* b) {
+            return taxonOrder::standsBehind(order, taxonOf(a), taxonOf(b));
         };
         if (std::adjacent_find(nodes_.begin(), nodes_.end(), misplaced) == nodes_.end())
-            orderedBy_ = mode;
+            orderedBy_ = order;
     }
-    return orderedBy_ == mode;
+    return orderedBy_ == order;
 }

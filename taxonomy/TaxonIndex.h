@@ -34,13 +34,14 @@ public:
 private:
     void refresh(const List& list);
     void enter(Taxon* taxon);
-    bool isOrdered(int mode);
+    bool isOrderedFor(int order, const Taxon& taxon);
 
     static inline unsigned long changesOfListed = 0;
 
     std::vector<GList::ListNode*> nodes_;
     std::unordered_map<long, Taxon*> firstOf_;
-    int orderedBy_ = 0; ///< the mode in which the entries are known to be in order; 0: none
+    int orderedBy_ = 0; ///< the insertion order in which the entries are known to be; 0: none
+    bool plainCategories_ = true;
     unsigned long revision_ = 0;
     unsigned long changes_ = 0;
 };

@@ -6,6 +6,7 @@
 
 #include <cstring>
 #include <initializer_list>
+#include <string_view>
 
 namespace {
 
@@ -46,6 +47,13 @@ bool taxonOrder::standsBehind(int mode, const Taxon& listed, const Taxon& insert
         return true;
     return compareSlots(listed, inserted, {slot::category}) == 0
         && compareByGenus(listed, inserted) > 0;
+}
+
+bool taxonOrder::isPlainCategory(const Taxon& taxon)
+{
+    const std::string_view category = taxon.category();
+    return std::none_of(
+        category.begin(), category.end(), [](char c) { return c >= 'a' && c <= 'z'; });
 }
 
 bool taxonOrder::isMisordered(int mode, const Entry& earlier, const Entry& later)

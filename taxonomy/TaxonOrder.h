@@ -15,9 +15,15 @@ enum : int { unset = 0, byGenus = 1, byCategory = 2, bySpecies = 3, byCode = 4 }
 /// code. Letter case is ignored, except in the question which category is greater.
 bool standsBehind(int mode, const Taxon& listed, const Taxon& inserted);
 
-/// Whether `standsBehind` is a consistent order in this mode. It is not for categories, which may
-/// be equal and greater at once.
-constexpr bool isConsistent(int mode) { return mode == byGenus || mode == bySpecies; }
+/// The order by which `standsBehind` goes in a mode: `byGenus`, `bySpecies` or `byCategory`.
+constexpr int insertionOrder(int mode)
+{
+    return mode == byGenus || mode == bySpecies ? mode : byCategory;
+}
+
+/// Whether a category is written so that `standsBehind` puts it among others of this kind in one
+/// consistent order. With small letters two can be equal and greater at once.
+bool isPlainCategory(const Taxon& taxon);
 
 /// A taxon on its way through a sort.
 struct Entry {

@@ -3,6 +3,7 @@
 #include "db/ErrorReporter.h"
 #include "db/Literals.h"
 #include "db/Session.h"
+#include "taxonomy/Identifiers.h"
 #include "taxonomy/Taxon.h"
 #include "taxonomy/TaxonList.h"
 #include "util/TextUtil.h"
@@ -20,7 +21,7 @@ std::string searchedTables()
 /// A pattern that matches everything is no condition; it would shut out rows without a value.
 std::string likeCondition(const char* column, char* pattern)
 {
-    if (!isNarrowingFilter(pattern))
+    if (!pattern || !isNarrowingFilter(pattern))
         return {};
     return std::string(" AND  upper(") + column + ") like upper(" + sql::quote(pattern) + ")";
 }
@@ -28,7 +29,7 @@ std::string likeCondition(const char* column, char* pattern)
 /// Categories are kept in upper case, so the pattern is brought to it once.
 std::string categoryCondition(char* pattern)
 {
-    if (!isNarrowingFilter(pattern))
+    if (!pattern || !isNarrowingFilter(pattern))
         return {};
     upperCase(pattern);
     return " AND  upper(g.cat_mnem) like " + sql::quote(pattern);
@@ -65,10 +66,9 @@ Synonym synonymState(long spec_id)
     return row.next() ? Synonym::Yes : Synonym::No;
 }
 
-void gather(TaxonList& found, Cursor& row, bool includeSynonyms)
+void gather(TaxonList& found, const std::vector<long>& ids, bool includeSynonyms)
 {
-    while (row.next()) {
-        const long spec_id = row.integer(1);
+    for (const long spec_id : ids) {
         const Synonym state = includeSynonyms ? Synonym::No : synonymState(spec_id);
         if (state == Synonym::Unknown)
             return;
@@ -93,7 +93,7 @@ TaxonList* Taxon::searchTaxa(char* category, char* genus, char* subgenus, char* 
         + codeCondition(codes);
     Cursor row(sql);
     if (row)
-        gather(*found, row, includeSynonyms != 0);
+        gather(*found, takeIdentifiers(row), includeSynonyms != 0);
     else
         reportDbFailureAs("Error in: " + sql, Fatal::Yes);
     found->reset();
