@@ -76,23 +76,16 @@ OdbcDatabase::OdbcDatabase(const std::string& options)
         failure_ = message(SQL_HANDLE_DBC, connection_);
         return;
     }
-    // In one transaction: a commit for each statement would take most of a test's time.
-    setAutoCommit(SQL_AUTOCOMMIT_OFF);
+    SQLSetConnectAttr(connection_, SQL_ATTR_AUTOCOMMIT,
+        reinterpret_cast<SQLPOINTER>(SQL_AUTOCOMMIT_OFF), SQL_IS_UINTEGER);
     for (const std::string_view statement : schemaStatements())
         if (failure_.empty() && !(failure_ = run(std::string(statement))).empty())
             failure_ += " in: " + std::string(statement);
-    SQLEndTran(SQL_HANDLE_DBC, connection_, SQL_COMMIT);
-    setAutoCommit(SQL_AUTOCOMMIT_ON);
-}
-
-void OdbcDatabase::setAutoCommit(SQLULEN mode)
-{
-    SQLSetConnectAttr(
-        connection_, SQL_ATTR_AUTOCOMMIT, reinterpret_cast<SQLPOINTER>(mode), SQL_IS_UINTEGER);
 }
 
 OdbcDatabase::~OdbcDatabase()
 {
+    SQLEndTran(SQL_HANDLE_DBC, connection_, SQL_ROLLBACK);
     SQLDisconnect(connection_);
     SQLFreeHandle(SQL_HANDLE_DBC, connection_);
     SQLFreeHandle(SQL_HANDLE_ENV, environment_);

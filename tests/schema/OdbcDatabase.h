@@ -7,9 +7,9 @@
 #include <sql.h>
 #include <sqlext.h>
 
-/// A fresh database of the embedded driver with the shipped tables, on a connection of its own that
-/// commits each statement. The tables are tried out below the session, so nothing of it is used.
-/// The end disconnects and removes the file.
+/// A fresh database of the embedded driver with the shipped tables, all in one transaction that is
+/// never committed, since commits would take most of a test's time. The tables are tried out below
+/// the session, so nothing of it is used. The end disconnects and removes the file.
 class OdbcDatabase {
 public:
     /// `options` goes into the connection string as it stands ("Dialect=Oracle"). When the database
@@ -30,8 +30,6 @@ public:
     std::vector<std::string> rows(const std::string& sql);
 
 private:
-    void setAutoCommit(SQLULEN mode);
-
     std::string file_;
     std::string failure_;
     SQLHENV environment_ = SQL_NULL_HENV;

@@ -1,5 +1,6 @@
 // tests/schema/SchemaTest.cpp
 #include "schema/Schema.h"
+#include "schema/StatementSplitter.h"
 #include "tests/schema/OdbcDatabase.h"
 
 #include <algorithm>
@@ -27,6 +28,31 @@ TEST(Schema, StatementsPassThroughASessionUnchanged)
         EXPECT_EQ(std::ranges::count(statement, '\'') % 2, 0) << statement;
         EXPECT_EQ(statement.starts_with("--") || statement.ends_with(";"), false) << statement;
     }
+}
+
+struct SplitCase {
+    const char* rule;
+    const char* text;
+    std::vector<std::string_view> statements;
+};
+
+const SplitCase kSplits[] = {
+    {"one behind the other", "A 1;\nB 2 ;", {"A 1", "B 2 "}},
+    {"comments in front go, inside they stay", "-- x\nA -- y; z\n 1; -- end", {"A -- y; z\n 1"}},
+    {"literals and names may hold what ends or opens", "A ';--' 1; B \"a;b\" 2;",
+        {"A ';--' 1", "B \"a;b\" 2"}},
+    {"a trigger with its body", "CREATE TRIGGER t BEGIN U 1; U 2; END; B 2;",
+        {"CREATE TRIGGER t BEGIN U 1; U 2; END", "B 2"}},
+    {"a trigger with a case that ends a statement",
+        "CREATE TRIGGER t BEGIN U CASE 1 END; U 2; END; B 2;",
+        {"CREATE TRIGGER t BEGIN U CASE 1 END; U 2; END", "B 2"}},
+    {"nothing", " -- only this", {}},
+};
+
+TEST(StatementSplitter, CutsAtTheEndOfEachStatement)
+{
+    for (const SplitCase& c : kSplits)
+        EXPECT_EQ(splitStatements(c.text), c.statements) << c.rule;
 }
 
 struct KeyCase {
@@ -69,8 +95,10 @@ const KeyCase kKeys[] = {
 
 TEST(Schema, KeysRefuseOnlyWhatIsOneThing)
 {
+    OdbcDatabase database;
     for (const KeyCase& c : kKeys) {
-        OdbcDatabase database;
+        const std::string table = std::string(c.first).substr(0, std::string(c.first).find(' '));
+        EXPECT_EQ(database.run("DELETE FROM " + table), "");
         EXPECT_EQ(database.run(std::string("INSERT INTO ") + c.first), "") << c.rule;
         EXPECT_EQ(database.run(std::string("INSERT INTO ") + c.second).empty(), c.accepted)
             << c.rule;
