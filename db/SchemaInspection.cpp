@@ -73,22 +73,36 @@ class CatalogueName {
 public:
     explicit CatalogueName(std::string name)
         : name_(std::move(name))
+        , pattern_(name_)
     {
-        char escape[8] = "";
-        SQLSMALLINT length = 0;
-        if (!odbcSucceeded(SQLGetInfo(
-                dbConnectionHandle(), SQL_SEARCH_PATTERN_ESCAPE, escape, sizeof escape, &length)))
-            escape[0] = '\0';
-        escapes_ = escape[0] != '\0';
-        pattern_ = escapes_ ? escaped(escape) : name_;
+        const std::string escape = isPlain(name_) ? "" : escapeOfDriver();
+        comparesRows_ = !isPlain(name_) && escape.empty();
+        if (!escape.empty())
+            pattern_ = escaped(escape);
     }
     SQLCHAR* pattern() const { return odbcText(pattern_); }
     bool isIn(const OwnStatement& row, short column) const
     {
-        return escapes_ || compareIgnoringCase(name_, row.text(column)) == 0;
+        return !comparesRows_ || compareIgnoringCase(name_, row.text(column)) == 0;
     }
 
 private:
+    static bool isPlain(std::string_view name)
+    {
+        return name.find_first_not_of(
+                   "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789")
+            == std::string_view::npos;
+    }
+
+    static std::string escapeOfDriver()
+    {
+        char escape[8] = "";
+        SQLSMALLINT length = 0;
+        const SQLRETURN result = SQLGetInfo(
+            dbConnectionHandle(), SQL_SEARCH_PATTERN_ESCAPE, escape, sizeof escape, &length);
+        return odbcSucceeded(result) ? escape : "";
+    }
+
     std::string escaped(const std::string& escape) const
     {
         std::string pattern;
@@ -102,7 +116,7 @@ private:
 
     std::string name_;
     std::string pattern_;
-    bool escapes_ = false;
+    bool comparesRows_;
 };
 
 /// The owner prefix as the catalogue takes it: the owner stands before the first point, what
@@ -243,7 +257,7 @@ int listColumns(const char* table, char** names, char** types, short* precisions
     std::set<std::string, std::less<>> delivered;
     while (fetchRowOf(name, rows)) {
         const std::string column = rows.text(kColumnName);
-        if (!delivered.emplace(utf8Prefix(column, kColumnText - 1)).second)
+        if (column.empty() || !delivered.emplace(utf8Prefix(column, kColumnText - 1)).second)
             continue;
         names[*count] = newText(column, kColumnText);
         types[*count] = newText(rows.text(kTypeName), kColumnText);
@@ -259,8 +273,11 @@ int listTables(char** names, int max)
     if (!askTables(rows, nullptr, "TABLE"))
         return 0;
     int delivered = 0;
-    while (delivered < max && SQLFetch(rows.handle()) == SQL_SUCCESS)
-        names[delivered++] = newText(rows.text(kTableName), kTableText);
+    while (delivered < max && SQLFetch(rows.handle()) == SQL_SUCCESS) {
+        const std::string name = rows.text(kTableName);
+        if (!name.empty())
+            names[delivered++] = newText(name, kTableText);
+    }
     return delivered;
 }
 

@@ -17,7 +17,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr const char* kDefaultText = "A database error has occurred.";
-const std::string kMissing = "SELECT a FROM " + sql::table("NO_SUCH_TABLE");
+const std::string kMissing = "SELECT a FROM " + testSettings().prefix + "NO_SUCH_TABLE";
 
 class Cursors : public testing::Test {
 protected:
