@@ -199,11 +199,31 @@ TEST_F(SchemaInspection, NeedsNoCursorNumber)
     EXPECT_EQ(1, dbGetLong(1, 1)) << "open cursors go on";
 }
 
-struct OwnerCase {
-    const char* prefix;
-    const char* table; // as the caller names NO_SUCH_V and NO_SUCH_T
-    int viewFound;     // with the owner asked for, and with kinds 1 and 5, which ask for none
-    int viewFoundByAnyOwner;
-};
+// Where the driver does not say how wildcards are escaped, its answers are compared instead.
+TEST_F(SchemaInspection, WithoutAnEscape)
+{
+    const DriverFault fault(1, "SQLGetInfo", DriverFault::Always);
+    EXPECT_EQ(1, viewExists("no_such_v"));
+    EXPECT_EQ(0, viewExists("NO_SUCH_W"));
+    EXPECT_THAT(columnNamesOf("NO_SUCH_T"),
+        ElementsAre("SORT_ORDER", "name", "a_column_name_longe", "d", "x"));
+    char word[20] = "";
+    int precision = -1;
+    EXPECT_EQ(1, columnType("NO_SUCH_T", "sort_order", word, &precision));
+    EXPECT_STREQ("number", word);
+    EXPECT_EQ(0, columnType("NOXSUCHXT", "SORT_ORDER", word, &precision));
+    EXPECT_EQ(0, columnType("NO_SUCH_X", "SORTXORDER", word, &precision));
+    EXPECT_TRUE(fault.fired());
+}
+
+TEST_F(SchemaInspection, ThePrefixBelongsToTheNames)
+{
+    const Restore prefix(ownerPrefix, FixedText<50>("GEO.NO_"));
+    EXPECT_EQ(1, viewExists("SUCH_V"));
+    EXPECT_EQ(0, viewExists("NO_SUCH_V"));
+    EXPECT_THAT(columnNamesOf("SUCH_V"), ElementsAre("name"));
+    EXPECT_EQ(1, tableExists("SUCH_T"));
+    EXPECT_EQ(1, columnExists("SUCH_T", "name"));
+}
 
 } // namespace
