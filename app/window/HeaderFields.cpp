@@ -28,18 +28,15 @@ QString typeText(char type)
     }
 }
 
-QString degrees(double value, char positive, char negative)
-{
-    return QString::fromStdString(fixedString(std::fabs(value), 6)) + QString::fromUtf8("\u00b0 ")
-        + QLatin1Char(value < 0 ? negative : positive);
-}
-
 // A well without a position reads as one on the equator off Africa.
-QString positionText(const Well& well)
+bool hasPosition(const Well& well) { return well.lat_dec != 0 || well.long_dec != 0; }
+
+QString degrees(const Well& well, double value, char positive, char negative)
 {
-    if (well.lat_dec == 0 && well.long_dec == 0)
+    if (!hasPosition(well))
         return missingText();
-    return degrees(well.lat_dec, 'N', 'S') + QLatin1String(", ") + degrees(well.long_dec, 'E', 'W');
+    return QString::fromStdString(fixedString(std::fabs(value), 6)) + QStringLiteral("\u00b0 ")
+        + QLatin1Char(value < 0 ? negative : positive);
 }
 
 QString gridText(const Well& well)
@@ -65,14 +62,15 @@ std::vector<HeaderField> headerFields(const Well& well, char units)
         {tr("Units"), QString::fromUtf8(well.UnitsText(3))},
         {tr("Spudded"), shownOrMissing(well.spud_date.isoText())},
         {tr("Completed"), shownOrMissing(well.comp_date.isoText())},
-        {tr("Position"), positionText(well)},
+        {tr("Latitude"), degrees(well, well.lat_dec, 'N', 'S')},
+        {tr("Longitude"), degrees(well, well.long_dec, 'E', 'W')},
         {tr("Geodetic datum"), shownOrMissing(well.geoDatum)},
+        {tr("Grid (x, y)"), gridText(well)},
         {tr("Total depth"), depth(well.td)},
         {tr("Rotary table elevation"), depth(well.rte)},
         {tr("Sea level"), depth(well.sl)},
         {tr("Sea bed"), depth(well.sb)},
         {tr("Kick-off depth"), depth(well.kicko)},
-        {tr("Grid (x, y)"), gridText(well)},
         {tr("Description"), shownOrMissing(well.descrip)},
     };
 }

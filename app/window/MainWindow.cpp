@@ -6,7 +6,6 @@
 #include "app/window/ProgramArguments.h"
 #include "app/window/SamplePane.h"
 #include "app/window/StartPage.h"
-#include "app/window/Texts.h"
 #include "app/window/WellHeaderPanel.h"
 #include "app/window/WellListPane.h"
 #include "app/window/WellNames.h"
@@ -24,20 +23,31 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QTableView>
+#include <QVBoxLayout>
 
 namespace {
 
 constexpr QSize kFirstSize(1100, 700);
-constexpr int kListWidth = 280;
+constexpr int kListWidth = 260;
 
-QSplitter* splitter(Qt::Orientation orientation, QWidget* fixed, QWidget* growing)
+QWidget* below(QWidget* upper, QWidget* lower)
 {
-    auto* panes = new QSplitter(orientation);
-    panes->addWidget(fixed);
-    panes->addWidget(growing);
-    panes->setStretchFactor(1, 1);
-    panes->setChildrenCollapsible(false);
-    return panes;
+    auto* both = new QWidget;
+    auto* layout = new QVBoxLayout(both);
+    layout->addWidget(upper);
+    layout->addWidget(lower, 1);
+    return both;
+}
+
+QSplitter* beside(QWidget* left, QWidget* right)
+{
+    auto* both = new QSplitter(Qt::Horizontal);
+    both->addWidget(left);
+    both->addWidget(right);
+    both->setStretchFactor(1, 1);
+    both->setChildrenCollapsible(false);
+    both->setSizes({kListWidth, kFirstSize.width() - kListWidth});
+    return both;
 }
 
 QString databaseName(const ConnectionSettings& settings)
@@ -45,6 +55,14 @@ QString databaseName(const ConnectionSettings& settings)
     return settings.databaseFile.empty()
         ? QString::fromStdString(withoutSecrets(settings.connectString))
         : QFileInfo(QString::fromStdString(settings.databaseFile)).fileName();
+}
+
+// A connection string may hold a password, so it is not repeated.
+QString databaseOption(const ConnectionSettings& settings)
+{
+    return settings.databaseFile.empty()
+        ? QStringLiteral("--connect STRING")
+        : QStringLiteral("--database \"%1\"").arg(QString::fromStdString(settings.databaseFile));
 }
 
 } // namespace
@@ -75,11 +93,9 @@ MainWindow::~MainWindow() { samples_->show(nullptr, 'M'); }
 
 void MainWindow::makePanes()
 {
-    QSplitter* well = splitter(Qt::Vertical, header_, samples_);
-    QSplitter* all = splitter(Qt::Horizontal, wells_, well);
-    all->setSizes({kListWidth, kFirstSize.width() - kListWidth});
+    panes_ = beside(wells_, below(header_, samples_));
     pages_->addWidget(start_);
-    pages_->addWidget(all);
+    pages_->addWidget(panes_);
     setCentralWidget(pages_);
     connect(start_, &StartPage::openAsked, this, &MainWindow::chooseFile);
     connect(wells_, &WellListPane::wellChosen, this, &MainWindow::showWell);
@@ -141,7 +157,7 @@ void MainWindow::showDatabase()
     setWindowTitle(databaseName(settings_) + QStringLiteral(" \u2013 ") + tr("Zonaris"));
     for (QAction* action : databaseActions_)
         action->setEnabled(true);
-    pages_->setCurrentIndex(1);
+    pages_->setCurrentWidget(panes_);
     reload();
     wells_->list().setFocus();
 }
@@ -171,7 +187,7 @@ void MainWindow::setUnits(DepthUnits units)
     for (QAction* action : unitsActions_->actions())
         action->setChecked(action->data().value<DepthUnits>() == units);
     samples_->setUnits(units, shownUnits());
-    showHeader();
+    header_->showWell(well_.get(), shownUnits());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -221,18 +237,19 @@ void MainWindow::showWell(long well_id)
     }
     well_.swap(well);
     samples_->show(well_.get(), shownUnits());
-    showHeader();
+    header_->showWell(well_.get(), shownUnits());
 }
 
-void MainWindow::showHeader()
+void MainWindow::reload()
 {
-    if (well_)
-        header_->show(shownOrMissing(well_->well_name.view()), headerFields(*well_, shownUnits()));
-    else
-        header_->clear();
+    auto wells = readWellNames();
+    if (!wells)
+        return;
+    if (wells->empty())
+        start_->showNoWells(databaseName(settings_), databaseOption(settings_));
+    pages_->setCurrentWidget(wells->empty() ? start_ : panes_);
+    wells_->setWells(std::move(*wells));
 }
-
-void MainWindow::reload() { wells_->setWells(readWellNames()); }
 
 void MainWindow::about()
 {

@@ -48,7 +48,6 @@ private:
     void copySelection();
     void cyclePanes(int step);
     void showWell(long well_id);
-    void showHeader();
     void reload();
     void about();
     char shownUnits() const;
@@ -61,6 +60,7 @@ private:
 
     QStackedWidget* pages_;
     StartPage* start_;
+    QWidget* panes_ = nullptr; // the next three
     WellListPane* wells_;
     WellHeaderPanel* header_;
     SamplePane* samples_;

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int kMeasuredRows = 200; // rows that column widths are made for; all would take long
-
 QComboBox* makeUnits(QWidget* parent)
 {
     auto* units = new QComboBox(parent);
@@ -33,7 +31,6 @@ QTableView* makeTable(QWidget* parent, QAbstractItemModel* samples)
     table->setModel(samples);
     lookLikeTable(*table);
     table->horizontalHeader()->setStretchLastSection(true);
-    table->horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
     return table;
 }
 
@@ -54,6 +51,7 @@ SamplePane::SamplePane(QWidget* parent)
     line->addWidget(label);
     line->addWidget(units_);
     auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
     layout->addLayout(line);
     layout->addWidget(table_);
     connect(units_, &QComboBox::activated, this,
@@ -64,13 +62,14 @@ SamplePane::SamplePane(QWidget* parent)
 void SamplePane::show(const Well* well, char units)
 {
     samples_.show(well, units);
-    table_->resizeColumnsToContents();
-    count_->setText(tr("Samples: %1").arg(samples_.rowCount()));
+    fitColumns(*table_);
+    const int count = samples_.rowCount();
+    count_->setText(count == 0 ? tr("No samples") : tr("Samples: %1").arg(count));
 }
 
 void SamplePane::setUnits(DepthUnits shown, char units)
 {
     units_->setCurrentIndex(units_->findData(QVariant::fromValue(shown)));
     samples_.setUnits(units);
-    table_->resizeColumnsToContents();
+    fitColumns(*table_);
 }

@@ -15,6 +15,7 @@ QString dateText(const Date& date) { return shownOrMissing(date.isoText()); }
 struct Column {
     const char* heading; // %1: the sign of the units
     const char* meaning;
+    Qt::AlignmentFlag alignment;
     QString (*text)(const Sample& sample, char units);
 };
 
@@ -24,23 +25,23 @@ constexpr const char* kDepthMeaning =
 // The depth is the core's: base first. American practice dates cuttings at their top, so the
 // heading says which it is.
 constexpr std::array kColumns{
-    Column{"Depth (%1), sample base", kDepthMeaning,
+    Column{"Depth (%1), sample base", kDepthMeaning, Qt::AlignRight,
         [](const Sample& s, char units) { return depthText(s.GetDepth('M', 0, 0), units); }},
-    Column{"Top (%1)", "Top of the sampled interval",
+    Column{"Top (%1)", "Top of the sampled interval", Qt::AlignRight,
         [](const Sample& s, char units) { return depthText(s.top, units); }},
-    Column{"Base (%1)", "Base of the sampled interval",
+    Column{"Base (%1)", "Base of the sampled interval", Qt::AlignRight,
         [](const Sample& s, char units) { return depthText(s.base, units); }},
-    Column{"Type", "Kind of sample: CU, SC, CO, OC or LOG",
+    Column{"Type", "Kind of sample: CU, SC, CO, OC or LOG", Qt::AlignHCenter,
         [](const Sample& s, char) { return shownOrMissing(s.type.view()); }},
-    Column{"Label", "What the sample is called",
+    Column{"Label", "What the sample is called", Qt::AlignLeft,
         [](const Sample& s, char) { return shownOrMissing(s.label.view()); }},
-    Column{"Created", "The day the sample was entered",
+    Column{"Created", "The day the sample was entered", Qt::AlignLeft,
         [](const Sample& s, char) { return dateText(s.created); }},
-    Column{"By", "Who entered the sample",
+    Column{"Created by", "Who entered the sample", Qt::AlignLeft,
         [](const Sample& s, char) { return shownOrMissing(s.creator.view()); }},
-    Column{"Changed", "The day the sample was last changed",
+    Column{"Changed", "The day the sample was last changed", Qt::AlignLeft,
         [](const Sample& s, char) { return dateText(s.modified); }},
-    Column{"Changed by", "Who changed the sample last",
+    Column{"Changed by", "Who changed the sample last", Qt::AlignLeft,
         [](const Sample& s, char) { return shownOrMissing(s.modifier.view()); }},
 };
 constexpr int kDepthColumns = 3; // the first ones
@@ -57,6 +58,11 @@ constexpr TypeWord kTypeWords[] = {
     {"OC", "outcrop"},
     {"LOG", "log"},
 };
+
+QVariant alignment(const Column& column)
+{
+    return QVariant::fromValue(column.alignment | Qt::AlignVCenter);
+}
 
 QString typeWord(const Sample& sample)
 {
@@ -108,8 +114,7 @@ QVariant SampleTableModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole:
         return index.column() == kTypeColumn ? QVariant(typeWord(sample)) : QVariant();
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(
-            (index.column() < kDepthColumns ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+        return alignment(kColumns[static_cast<std::size_t>(index.column())]);
     default:
         return {};
     }
@@ -124,9 +129,5 @@ QVariant SampleTableModel::headerData(int section, Qt::Orientation orientation, 
         return tr(column.heading).replace(QLatin1String("%1"), unitsSign(units_));
     if (role == Qt::ToolTipRole)
         return tr(column.meaning);
-    if (role == Qt::TextAlignmentRole && section < kDepthColumns)
-        return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
-    if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
-    return {};
+    return role == Qt::TextAlignmentRole ? alignment(column) : QVariant();
 }

@@ -6,7 +6,9 @@
 
 namespace {
 
-constexpr int kRowMargin = 6; // pixels above and below the text, together
+constexpr int kRowMargin = 6;      // pixels above and below the text, together
+constexpr int kColumnMargin = 10;  // pixels beside the text, on both sides together
+constexpr int kMeasuredRows = 200; // a well may have thousands, and all would take long
 
 } // namespace
 
@@ -18,8 +20,17 @@ void lookLikeTable(QTableView& table)
     table.setAlternatingRowColors(true);
     table.setTabKeyNavigation(false);
     table.setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    table.horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
     table.horizontalHeader()->setHighlightSections(false);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + kRowMargin);
+}
+
+void fitColumns(QTableView& table)
+{
+    table.resizeColumnsToContents();
+    // The last column takes what is left anyway.
+    for (int column = 0; column + 1 < table.model()->columnCount(); ++column)
+        table.setColumnWidth(column, table.columnWidth(column) + kColumnMargin);
 }

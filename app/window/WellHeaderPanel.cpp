@@ -2,20 +2,28 @@
 #include "app/window/WellHeaderPanel.h"
 
 #include "app/window/Clipboard.h"
+#include "app/window/Texts.h"
+#include "well/Well.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace {
 
-constexpr int kColumns = 3;    // of fields beside each other
-constexpr double kTitle = 1.4; // times the size of the other texts
+constexpr int kColumns = 3;       // of fields beside each other
+constexpr int kMostLines = 16;    // of text, before the panel scrolls
+constexpr float kCaption = 0.65F; // of the text's colour
+constexpr double kTitle = 1.4;    // times the size of the other texts
 
 QLabel* makeTitle(QWidget* parent)
 {
     auto* title = new QLabel(parent);
     title->setObjectName(QStringLiteral("wellTitle"));
     title->setTextFormat(Qt::PlainText);
+    title->setTextInteractionFlags(Qt::TextSelectableByMouse);
     QFont font = title->font();
     font.setBold(true);
     font.setPointSizeF(font.pointSizeF() * kTitle);
@@ -23,11 +31,29 @@ QLabel* makeTitle(QWidget* parent)
     return title;
 }
 
+QLabel* makeCaption(QWidget* parent, const QString& caption)
+{
+    auto* label = new QLabel(caption, parent);
+    label->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    return label;
+}
+
+// Paler than the values and still easy to read, on light and on dark.
+QColor captionColour(const QPalette& palette)
+{
+    const QColor text = palette.color(QPalette::WindowText);
+    const QColor behind = palette.color(QPalette::Window);
+    const auto mixed = [](float a, float b) { return kCaption * a + (1 - kCaption) * b; };
+    return QColor::fromRgbF(mixed(text.redF(), behind.redF()),
+        mixed(text.greenF(), behind.greenF()), mixed(text.blueF(), behind.blueF()));
+}
+
 QLabel* makeValue(QWidget* parent, const QString& caption)
 {
     auto* value = new QLabel(parent);
     value->setTextFormat(Qt::PlainText);
     value->setWordWrap(true);
+    value->setAlignment(Qt::AlignTop | Qt::AlignLeft);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setAccessibleName(caption);
     return value;
@@ -38,39 +64,32 @@ QLabel* makeValue(QWidget* parent, const QString& caption)
 WellHeaderPanel::WellHeaderPanel(QWidget* parent)
     : QScrollArea(parent)
 {
-    auto* page = new QWidget(this);
-    title_ = makeTitle(page);
-    grid_ = new QGridLayout(page);
-    grid_->addWidget(title_, 0, 0, 1, 2 * kColumns);
-    for (int column = 0; column < kColumns; ++column)
-        grid_->setColumnStretch(2 * column + 1, 1);
-    setWidget(page);
+    setWidget(new QWidget(this));
     setWidgetResizable(true);
+    makeFields();
     setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Header of the well"));
     markFocus(false);
+    showWell(nullptr, 'M');
 }
 
-void WellHeaderPanel::show(const QString& title, const std::vector<HeaderField>& fields)
-{
-    const int count = static_cast<int>(fields.size());
-    for (int number = static_cast<int>(values_.size()); number < count; ++number)
-        addField(fields[static_cast<std::size_t>(number)].caption, number, count);
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        values_[i]->setText(fields[i].value);
-    title_->setText(title);
-    fields_ = fields;
-    fields_.insert(fields_.begin(), {tr("Name"), title});
-    setAccessibleDescription(text());
-    widget()->setVisible(true);
-}
-
-void WellHeaderPanel::clear()
+void WellHeaderPanel::showWell(const Well* well, char units)
 {
     fields_.clear();
-    setAccessibleDescription({});
-    widget()->setVisible(false);
+    if (well)
+        fields_ = headerFields(*well, units);
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        values_[i]->setText(fields_[i].value);
+    if (well) {
+        title_->setText(shownOrMissing(well->well_name.view()));
+        fields_.insert(fields_.begin(), {tr("Name"), title_->text()});
+    }
+    widget()->setVisible(well != nullptr);
+    setAccessibleDescription(text());
 }
 
 QString WellHeaderPanel::text() const
@@ -81,10 +100,24 @@ QString WellHeaderPanel::text() const
     return tabSeparated(lines);
 }
 
+int WellHeaderPanel::heightForWidth(int width) const
+{
+    const int frame = 2 * frameWidth();
+    const int wanted = widget()->heightForWidth(width - frame) + frame;
+    return std::min(wanted, kMostLines * fontMetrics().lineSpacing());
+}
+
 QSize WellHeaderPanel::sizeHint() const
 {
-    const QSize page = widget()->sizeHint();
-    return {page.width(), widget()->heightForWidth(viewport()->width()) + 2 * frameWidth()};
+    const int width = widget()->sizeHint().width() + 2 * frameWidth();
+    return {width, heightForWidth(width)};
+}
+
+void WellHeaderPanel::changeEvent(QEvent* event)
+{
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        colourCaptions();
 }
 
 void WellHeaderPanel::focusInEvent(QFocusEvent* event)
@@ -99,22 +132,51 @@ void WellHeaderPanel::focusOutEvent(QFocusEvent* event)
     markFocus(false);
 }
 
-// Column by column, as the captions belong together; the last field below all of them.
-void WellHeaderPanel::addField(const QString& caption, int number, int fields)
+// The height that the panel wants is that of its page, which changes with the texts in it.
+bool WellHeaderPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* label = new QLabel(caption, widget());
-    label->setForegroundRole(QPalette::PlaceholderText);
-    QLabel* value = makeValue(widget(), caption);
-    const int rows = (fields - 1 + kColumns - 1) / kColumns;
-    const bool last = number == fields - 1;
-    const int row = last ? rows + 1 : 1 + number % rows;
-    const int column = last ? 0 : number / rows;
-    grid_->addWidget(label, row, 2 * column, Qt::AlignTop);
-    grid_->addWidget(value, row, 2 * column + 1, 1, last ? -1 : 1, Qt::AlignTop);
-    values_.push_back(value);
+    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+}
+
+// Column by column, since neighbours belong together; the last one, which may be long, below all.
+void WellHeaderPanel::makeFields()
+{
+    QWidget* page = widget();
+    auto* grid = new QGridLayout(page);
+    title_ = makeTitle(page);
+    grid->addWidget(title_, 0, 0, 1, -1);
+    const std::vector<HeaderField> blank = headerFields(Well(), 'M');
+    const int beside = static_cast<int>(blank.size()) - 1;
+    const int rows = (beside + kColumns - 1) / kColumns;
+    for (const HeaderField& field : blank) {
+        const int number = static_cast<int>(values_.size());
+        const bool last = number == beside;
+        const int row = last ? rows + 1 : 1 + number % rows;
+        const int column = last ? 0 : 2 * (number / rows);
+        QLabel* value = makeValue(page, field.caption);
+        captions_.push_back(makeCaption(page, field.caption));
+        grid->addWidget(captions_.back(), row, column);
+        grid->addWidget(value, row, column + 1, 1, last ? -1 : 1);
+        values_.push_back(value);
+    }
+    for (int column = 0; column < kColumns; ++column)
+        grid->setColumnStretch(2 * column + 1, 1);
+    grid->setHorizontalSpacing(2 * grid->horizontalSpacing());
+    colourCaptions();
 }
 
 void WellHeaderPanel::markFocus(bool focused)
 {
     setForegroundRole(focused ? QPalette::Highlight : QPalette::Mid);
+}
+
+void WellHeaderPanel::colourCaptions()
+{
+    for (QLabel* caption : captions_) {
+        QPalette colours;
+        colours.setColor(QPalette::WindowText, captionColour(palette()));
+        caption->setPalette(colours);
+    }
 }

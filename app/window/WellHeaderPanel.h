@@ -5,7 +5,6 @@
 
 #include <QScrollArea>
 
-class QGridLayout;
 class QLabel;
 
 /// The header of the chosen well: its name as a title, the fields below it. The panel takes the
@@ -17,27 +16,29 @@ class WellHeaderPanel : public QScrollArea {
 public:
     explicit WellHeaderPanel(QWidget* parent = nullptr);
 
-    /// Fields must have the captions of the earlier calls in the same order; the last one gets the
-    /// whole width.
-    void show(const QString& title, const std::vector<HeaderField>& fields);
-    /// Shows no well.
-    void clear();
+    /// Shows the header of `well` (null: nothing) with depths in `units` ('F' or 'M').
+    void showWell(const Well* well, char units);
 
-    /// Captions and values as tab-separated lines, the title first; empty without a well.
+    /// Captions and values as tab-separated lines, the name first; empty without a well.
     QString text() const;
 
+    /// As high as the fields need at that width, up to a limit beyond which the panel scrolls.
+    int heightForWidth(int width) const override;
     QSize sizeHint() const override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addField(const QString& caption, int number, int fields);
+    void makeFields();
     void markFocus(bool focused);
+    void colourCaptions();
 
     QLabel* title_;
-    QGridLayout* grid_;
-    std::vector<QLabel*> values_;
+    std::vector<QLabel*> captions_;
+    std::vector<QLabel*> values_; // in the order of `headerFields`
     std::vector<HeaderField> fields_;
 };

@@ -15,7 +15,7 @@ QString shownColumn(const Cursor& rows, short column)
 
 } // namespace
 
-std::vector<WellName> readWellNames()
+std::optional<std::vector<WellName>> readWellNames()
 {
     const std::string select = "SELECT v.well_id, w.well_name, w.well_code FROM "
         + sql::table("WELLS") + " w, " + sql::table("WELL_IDENT")
@@ -23,7 +23,7 @@ std::vector<WellName> readWellNames()
     Cursor rows(select);
     if (!rows) {
         reportDbFailure(select, Fatal::No);
-        return {};
+        return std::nullopt;
     }
     std::vector<WellName> wells;
     while (rows.next()) {
