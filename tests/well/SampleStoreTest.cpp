@@ -4,7 +4,6 @@
 #include "db/Session.h"
 #include "tests/support/Restore.h"
 #include "tests/well/WellTest.h"
-#include "well/Well.h"
 
 namespace {
 

@@ -1,9 +1,7 @@
 // tests/well/WellFaultTest.cpp
-#include "db/ErrorReporter.h"
 #include "db/Session.h"
 #include "tests/support/Restore.h"
 #include "tests/well/WellTest.h"
-#include "well/Well.h"
 #include "well/WellMaster.h"
 
 #include <gmock/gmock.h>
@@ -17,16 +15,6 @@ constexpr const char* kRun[] = {"SQLAllocHandle", "SQLSetStmtAttr", "SQLExecDire
 constexpr const char* kFetch = "SQLFetch";
 constexpr const char* kFault = "injected fault";
 constexpr const char* kLost = "ORA-03113 connection lost";
-
-std::string identityOf(const Well& w) { return joined(w.well_id, w.well_code.view(), w.GetName()); }
-
-std::string headerOf(const Well& w)
-{
-    return joined(w.well_name.view(), w.operator_.view(), w.country.view(), w.field.view(),
-        w.grid_x, w.grid_y, w.lat_dec, w.long_dec, w.td, w.sl, w.sb, w.rte, w.type, w.units,
-        int(w.datum), w.spud_date.isoText(), w.comp_date.isoText(), w.geoDatum, w.kicko,
-        w.ocs.view(), w.county.view());
-}
 
 struct Seven : Well {
     Seven()
@@ -73,6 +61,8 @@ std::vector<std::string> operator+(std::vector<std::string> a, const std::vector
 
 const std::string kSampleColumns =
     "top_depth,base_depth,type,grid_x,grid_y,created,modified,creator,modifier,label";
+const std::string kNone = "8|**No well code for ID=8|**Unnamed well ID=8||0|";
+const std::string kLone = "0|LONE|Lone well of 25 letters x||0|";
 const std::string kNoSample = "0|0|0|CU|0|0||||||0|";
 const std::string kOne = "1|30|31|SC|3|4|1998-03-05|1998-04-06|AB|CD|one|1|";
 const std::string kTwo = "2|20|20|LOG|0|0||||||1|";
@@ -81,33 +71,29 @@ const std::string kDeep = "3000.5|1.5|-90.25|25.5|O|F|2|1998-03-05|1998-04-06|ED
 const std::string kUnnamed = "||||0|0|", kUnplaced = "0|0|", kFlat = "0|0|0|0|W|M|1||||0|";
 
 const std::vector<Operation> kOperations = {
-    {"identifier", [](WellData&) { return identityOf(Well(8L)); },
-        "8|**No well code for ID=8|**Unnamed well ID=8|",
-        {{1, "0|||", "SELECT v.well_code"},
-            {2, "8|**No well code for ID=8|**Unnamed well ID=8|", "SELECT well_name"},
-            {3, "8|**No well code for ID=8|**Unnamed well ID=8|", "SELECT lat_dec"},
-            {4, "8|**No well code for ID=8|**Unnamed well ID=8|", "SELECT td"},
-            {5, "8|**No well code for ID=8|**Unnamed well ID=8|", "SELECT ocs"}},
+    {"identifier", [](WellData&) { return identityOf(Well(8L)); }, kNone,
+        {{1, "0||||0|", "SELECT v.well_code"}, {2, kNone, "SELECT well_name"},
+            {3, kNone, "SELECT lat_dec"}, {4, kNone, "SELECT td"}, {5, kNone, "SELECT ocs"}},
         {}},
-    {"code", [](WellData&) { return identityOf(Well("LONE")); }, "0|LONE||",
-        {{1, "0|LONE||", "SELECT v.well_id"}}, {{1, "0|LONE||", ""}}},
+    {"code", [](WellData&) { return identityOf(Well("LONE")); }, "0|LONE|||0|",
+        {{1, "0|LONE|||0|", "SELECT v.well_id"}}, {{1, "0|LONE|||0|", ""}}},
     {"find by name",
         [](WellData&) {
             Well well;
             well.FindByName("Lone well of 25 letters x", 25);
             return identityOf(well);
         },
-        "0|LONE|Lone well of 25 letters x|",
-        {{1, "0|LONE|Lone well of 25 letters x|", ""},
-            {2, "0||Lone well of 25 letters x|", "SELECT well_code", false, false}},
-        {{1, "0|LONE|Lone well of 25 letters x|", ""}, {2, "0||Lone well of 25 letters x|", ""}}},
+        kLone,
+        {{1, kLone, ""}, {2, "0||Lone well of 25 letters x||0|", "SELECT well_code", false, false}},
+        {{1, kLone, ""}, {2, "0||Lone well of 25 letters x||0|", ""}}},
     {"find by code",
         [](WellData&) {
             Well well;
             const long result = well.FindByCode("LONE", 4);
             return joined(result) + identityOf(well);
         },
-        "0|0|LONE|LONE|", {{1, "1|0|LONE||", "SELECT v.well_id"}}, {{1, "0|0|LONE|LONE|", ""}}},
+        "0|0|LONE|LONE||0|", {{1, "1|0|LONE|||0|", "SELECT v.well_id"}},
+        {{1, "0|0|LONE|LONE||0|", ""}}},
     {"names",
         [](WellData&) {
             char name[26], code[26];

@@ -1,6 +1,5 @@
 // tests/well/WellIdentityTest.cpp
 #include "tests/well/WellTest.h"
-#include "well/Well.h"
 #include "well/WellList.h"
 
 #include <memory>
@@ -8,11 +7,6 @@
 namespace {
 
 using WellIdentity = WellTest;
-
-std::string identityOf(const Well& w)
-{
-    return joined(w.well_id, w.well_code.view(), w.GetName(), w.descrip, int(w.identified));
-}
 
 std::string byName(const char* name, int length)
 {

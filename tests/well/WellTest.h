@@ -5,7 +5,7 @@
 #include "tests/support/TestDatabase.h"
 #include "util/Date.h"
 #include "well/Sample.h"
-#include "well/SampleList.h"
+#include "well/Well.h"
 
 #include <sstream>
 #include <string>
@@ -43,6 +43,19 @@ inline std::string textOf(const Sample& s)
 {
     return joined(s.samp_id, s.top, s.base, s.GetType(), s.grid_x, s.grid_y, s.created.isoText(),
         s.modified.isoText(), s.creator.view(), s.modifier.view(), s.label.view(), int(s.saved));
+}
+
+inline std::string identityOf(const Well& w)
+{
+    return joined(w.well_id, w.well_code.view(), w.GetName(), w.descrip, int(w.identified));
+}
+
+inline std::string headerOf(const Well& w)
+{
+    return joined(w.well_name.view(), w.operator_.view(), w.country.view(), w.field.view(),
+        w.grid_x, w.grid_y, w.lat_dec, w.long_dec, w.td, w.sl, w.sb, w.rte, w.type, w.units,
+        int(w.datum), w.spud_date.isoText(), w.comp_date.isoText(), w.geoDatum, w.kicko,
+        w.ocs.view(), w.county.view());
 }
 
 /// A database with well 7, a well that has no identifier, and samples. Message boxes are kept.
