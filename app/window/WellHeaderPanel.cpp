@@ -72,6 +72,7 @@ WellHeaderPanel::WellHeaderPanel(QWidget* parent)
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setFocusPolicy(Qt::StrongFocus);
+    setObjectName(QStringLiteral("wellHeader"));
     setAccessibleName(tr("Header of the well"));
     markFocus(false);
     showWell(nullptr, 'M');

@@ -7,6 +7,7 @@ QString searchForm(const QString& text)
 {
     return text.normalized(QString::NormalizationForm_C)
         .toCaseFolded()
+        .toUpper() // some letters are two in capitals only
         .replace(QLatin1Char('`'), QLatin1Char('\''));
 }
 
