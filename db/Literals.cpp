@@ -13,7 +13,6 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
-#include <optional>
 #include <string_view>
 
 namespace {
@@ -62,16 +61,15 @@ bool readsBackTo(double x, const std::string& text)
     return read == x;
 }
 
-// Reads a number and moves `text` behind it, blanks before it included.
-std::optional<int> takeInteger(std::string_view& text)
+// Reads a number and moves `text` behind it, blanks before it included. 0, which no part of a date
+// is, when there is none or it has too many digits.
+int takeInteger(std::string_view& text)
 {
     text.remove_prefix(std::min(text.find_first_not_of(" \t\n\v\f\r"), text.size()));
     if (text.starts_with('+'))
         text.remove_prefix(1);
     int value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc())
-        return std::nullopt;
+    const char* const end = std::from_chars(text.data(), text.data() + text.size(), value).ptr;
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
     return value;
 }
@@ -131,14 +129,13 @@ std::string date(Date d)
 Date parsedDate(const char* text)
 {
     std::string_view rest = orEmpty(text);
-    const auto year = takeInteger(rest);
-    if (!year || !takeDash(rest))
+    const int year = takeInteger(rest);
+    if (!takeDash(rest))
         return {};
-    const auto month = takeInteger(rest);
-    if (!month || !takeDash(rest))
+    const int month = takeInteger(rest);
+    if (!takeDash(rest))
         return {};
-    const auto day = takeInteger(rest);
-    return day ? Date(*day, *month, *year) : Date();
+    return Date(takeInteger(rest), month, year);
 }
 
 } // namespace sql

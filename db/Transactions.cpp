@@ -10,8 +10,7 @@ namespace {
 void endTransaction(SQLUSMALLINT how)
 {
     const session::State& s = session::state();
-    if (s.connection != SQL_NULL_HDBC)
-        SQLTransact(s.environment, s.connection, how);
+    SQLTransact(s.environment, s.connection, how);
 }
 
 } // namespace

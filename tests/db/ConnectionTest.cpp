@@ -46,6 +46,7 @@ TEST_F(Connecting, ATextOfAnyLengthIsKeptWhole)
     std::string text = database.connectString();
     text.erase(text.find(file), file.size());
     text += ";Note=" + std::string(1000, 'x') + file; // what counts stands last
+    dbSetConnectString(nullptr);
     EXPECT_EQ(1, dbConnect(text.c_str()));
     EXPECT_EQ(1, dbConnect(nullptr));
     EXPECT_TRUE(insertRow());

@@ -44,7 +44,6 @@ SQLRETURN SQLAllocConnect(SQLHENV, SQLHDBC* handle) { return give(handle); }
 SQLRETURN SQLAllocStmt(SQLHDBC, SQLHSTMT* handle) { return give(handle); }
 SQLRETURN SQLFreeEnv(SQLHENV) { return SQL_SUCCESS; }
 SQLRETURN SQLFreeConnect(SQLHDBC) { return SQL_SUCCESS; }
-SQLRETURN SQLFreeStmt(SQLHSTMT, SQLUSMALLINT) { return SQL_SUCCESS; }
 SQLRETURN SQLDisconnect(SQLHDBC) { return SQL_SUCCESS; }
 SQLRETURN SQLFetch(SQLHSTMT) { return SQL_NO_DATA_FOUND; }
 
@@ -80,9 +79,22 @@ SQLRETURN SQLGetInfo(SQLHDBC, SQLUSMALLINT info, SQLPOINTER out, SQLSMALLINT, SQ
     return SQL_SUCCESS;
 }
 
+SQLRETURN SQLFreeStmt(SQLHSTMT, SQLUSMALLINT how)
+{
+    return note("SQLFreeStmt " + std::to_string(how));
+}
+
 SQLRETURN SQLExecDirect(SQLHSTMT, SQLCHAR* text, SQLINTEGER)
 {
-    return note("SQLExecDirect " + shown(text));
+    note("SQLExecDirect " + shown(text));
+    return shown(text) == "\"fail\"" ? SQL_ERROR : SQL_SUCCESS;
+}
+
+SQLRETURN SQLError(
+    SQLHENV, SQLHDBC, SQLHSTMT, SQLCHAR*, SQLINTEGER*, SQLCHAR* text, SQLSMALLINT, SQLSMALLINT*)
+{
+    std::strcpy(reinterpret_cast<char*>(text), "what failed");
+    return note("SQLError");
 }
 
 SQLRETURN SQLPrepare(SQLHSTMT, SQLCHAR* text, SQLINTEGER)

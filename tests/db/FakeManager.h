@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-/// Stands in for the driver manager in the program that it is linked into: every call succeeds, a
-/// query has no rows, and what the calls were given is kept.
+/// Stands in for the driver manager in the program that it is linked into: every call succeeds save
+/// the execution of the text "fail", a query has no rows, and what the calls were given is kept.
 struct FakeManager {
     /// The calls with what a driver sees of them, in order.
     std::vector<std::string> calls;

@@ -247,10 +247,27 @@ TEST_F(LoadedItemList, InTheOrderOfTheDatabase)
 
 TEST_F(LoadedItemList, SortedWhateverTheDatabaseSays)
 {
-    store("(1, 'b'), (2, 'A'), (3, 'a'), (4, ' x'), (5, 'b')");
+    database.run("CREATE TABLE NO_SUCH_LIST (id INTEGER, name VARCHAR(9) COLLATE NOCASE)");
+    database.run("INSERT INTO NO_SUCH_LIST VALUES (1, 'b'), (2, 'A'), (3, 'a'), (4, 'B')");
+    ItemList list;
+    list.load("NO_SUCH_LIST", "id", "name");
+    EXPECT_THAT(contents(list), ElementsAre("2A", "3a", "1b", "4B"));
+    list.sorted = 1;
+    list.load("NO_SUCH_LIST", "id", "name");
+    EXPECT_THAT(contents(list), ElementsAre("2A", "4B", "3a", "1b"));
+}
+
+TEST_F(LoadedItemList, EqualTextsKeepTheOrderOfTheRows)
+{
+    ItemList addedOneByOne(1);
+    for (int id = 1; id <= 60; ++id) {
+        const char* name = id % 2 ? "x" : "a";
+        store("(" + std::to_string(id) + ", '" + name + "')");
+        addedOneByOne.addNew(id, name);
+    }
     ItemList list(1);
     list.load("IGD_SCH", "sch_id", "name");
-    EXPECT_THAT(contents(list), ElementsAre("4 x", "2A", "3a", "1b", "5b"));
+    EXPECT_EQ(contents(addedOneByOne), contents(list));
 }
 
 TEST_F(LoadedItemList, ASecondLoadReplaces)

@@ -38,9 +38,23 @@ TEST_F(OdbcCalls, Statements)
     dbCommit();
     dbRollback();
     EXPECT_THAT(manager.calls,
-        ElementsAre("SQLSetStmtOption 2=1", "SQLExecDirect \"SELECT 1\"",
+        ElementsAre("SQLSetStmtOption 2=1", "SQLExecDirect \"SELECT 1\"", "SQLFreeStmt 1",
             "SQLPrepare \"INSERT INTO t VALUES (?,?)\"", "SQLSetParam 1 1 1 3 0 -2",
-            "SQLSetParam 2 1 1 1 0 -2", "SQLExecute", "SQLTransact 0", "SQLTransact 1"));
+            "SQLSetParam 2 1 1 1 0 -2", "SQLExecute", "SQLFreeStmt 1", "SQLTransact 0",
+            "SQLTransact 1"));
+}
+
+TEST_F(OdbcCalls, AFailedStatementIsDroppedWhenItsNumberIsNeeded)
+{
+    EXPECT_EQ(0, dbExecute("fail"));
+    manager.calls.clear();
+    EXPECT_STREQ("what failed", dbErrorText());
+    EXPECT_STREQ("A database error has occurred.", dbErrorText()) << "not asked a second time";
+    EXPECT_THAT(manager.calls, ElementsAre("SQLError"));
+    EXPECT_EQ(1, dbExecute("SELECT 1"));
+    EXPECT_THAT(manager.calls,
+        ElementsAre(
+            "SQLError", "SQLFreeStmt 1", "SQLSetStmtOption 2=1", "SQLExecDirect \"SELECT 1\""));
 }
 
 // The switch is one for the life of the process, so the process ends with the check.
@@ -52,7 +66,7 @@ TEST_F(OdbcCalls, TheDriverThatNeedsItsScanKeepsIt)
         dbConnect(nullptr);
         manager.calls.clear();
         dbCloseCursor(dbExecute("SELECT 1"));
-        return manager.calls.size() == 1;
+        return manager.calls.front() != "SQLSetStmtOption 2=1";
     };
     const auto check = [&] {
         const bool others = scans("MSORCL32.DLL") || scans("some.so");
@@ -103,6 +117,7 @@ TEST_P(Catalogue, Arguments)
     columnType("NEW_V", "a_b", word, &count);
     const std::string owner = c.owner;
     const std::string table = '"' + std::string(c.table) + '"';
+    std::erase(manager.calls, "SQLFreeStmt 1");
     EXPECT_THAT(manager.calls,
         ElementsAre("SQLTables null " + owner + " " + table + " \"'VIEW'\"",
             "SQLColumns null " + owner + " " + table + " null",
