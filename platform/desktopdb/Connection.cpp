@@ -51,7 +51,8 @@ SQLRETURN Connection::endTransaction(SQLSMALLINT completion)
     Failure failure;
     const bool done =
         completion == SQL_COMMIT ? engine_->commit(failure) : engine_->rollback(failure);
-    forgetTables();
+    if (completion == SQL_ROLLBACK)
+        forgetCompiled(); // changes of tables are taken back as well
     return done ? SQL_SUCCESS : diagnostics_.fail(failure);
 }
 
@@ -166,6 +167,20 @@ bool Connection::rewriteFor(
 bool Connection::beginForWrite(Failure& failure)
 {
     return autocommit_ || engine_->inTransaction() || engine_->begin(failure);
+}
+
+void Connection::forgetCompiled()
+{
+    cache_.clear();
+    tables_.clear();
+}
+
+void Connection::noticeTableChanges()
+{
+    const std::int64_t version = engine_->schemaVersion();
+    if (version != compiledVersion_)
+        forgetCompiled();
+    compiledVersion_ = version;
 }
 
 const std::vector<Connection::DateFlag>& Connection::columnsOf(std::string_view table) const

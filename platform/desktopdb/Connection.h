@@ -65,7 +65,10 @@ public:
     /// Begins the transaction that a writing statement needs when commits are manual.
     bool beginForWrite(Failure& failure);
     void setDayFirstDates(bool on) { dayFirstDates_ = on; }
-    void forgetTables() { tables_.clear(); }
+    /// After a change of the tables: nothing that was compiled for the old ones stays.
+    void forgetCompiled();
+    /// The same when another connection has changed them.
+    void noticeTableChanges();
 
     bool isDate(std::string_view table, std::string_view column) const override;
     bool isDateAt(std::string_view table, size_t position) const override;
@@ -90,6 +93,7 @@ private:
     // Which columns are dates, read when first needed and again when the tables have changed.
     mutable std::map<std::string, std::vector<DateFlag>, std::less<>> tables_;
     mutable std::int64_t tablesVersion_ = -1;
+    std::int64_t compiledVersion_ = -1; // the tables that the cache's statements were made for
 };
 
 } // namespace desktopdb

@@ -339,6 +339,8 @@ SQLRETURN deliver(
         return writeNull(target, diagnostics);
     switch (target.cType) {
     case SQL_C_CHAR:
+        if (cell.kind == ValueKind::Text)
+            return writePiece(cell.bytes, 1, true, target, progress, diagnostics);
         return writePiece(CellText(cell).text(), 1, true, target, progress, diagnostics);
     case SQL_C_WCHAR:
         return writeWide(CellText(cell).text(), target, progress, diagnostics);
@@ -386,7 +388,11 @@ SQLRETURN deliver(
 
 std::string_view realText(double x, char (&buffer)[40])
 {
-    const auto written = std::to_chars(buffer, std::end(buffer), x);
+    // Fixed notation as far as doubles are exact to the unit, as people write numbers.
+    const double size = std::abs(x);
+    const bool fixed = size == 0 || (size >= 1e-5 && size < 1e15);
+    const auto written = std::to_chars(
+        buffer, std::end(buffer), x, fixed ? std::chars_format::fixed : std::chars_format::general);
     return {buffer, written.ptr};
 }
 

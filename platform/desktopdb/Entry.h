@@ -27,9 +27,8 @@ template <class Work> SQLRETURN onEnvironment(SQLHENV handle, const char* functi
     if (!environment)
         return SQL_INVALID_HANDLE;
     environment->diagnostics.clear();
-    Failure failure;
-    if (isFaulty(function, failure))
-        return environment->diagnostics.fail(failure);
+    if (faultStrikes(function, &environment->diagnostics))
+        return SQL_ERROR;
     return guarded(environment->diagnostics, [&] { return work(*environment); });
 }
 
@@ -41,9 +40,8 @@ SQLRETURN onConnection(SQLHDBC handle, const char* function, Work work, bool cou
     if (!connection)
         return SQL_INVALID_HANDLE;
     connection->diagnostics().clear();
-    Failure failure;
-    if (counts && !connection->isHidden() && isFaulty(function, failure))
-        return connection->diagnostics().fail(failure);
+    if (counts && !connection->isHidden() && faultStrikes(function, &connection->diagnostics()))
+        return SQL_ERROR;
     return guarded(connection->diagnostics(), [&] { return work(*connection); });
 }
 
@@ -53,9 +51,8 @@ template <class Work> SQLRETURN onStatement(SQLHSTMT handle, const char* functio
     if (!statement)
         return SQL_INVALID_HANDLE;
     statement->diagnostics().clear();
-    Failure failure;
-    if (!statement->connection().isHidden() && isFaulty(function, failure))
-        return statement->diagnostics().fail(failure);
+    if (!statement->connection().isHidden() && faultStrikes(function, &statement->diagnostics()))
+        return SQL_ERROR;
     return guarded(statement->diagnostics(), [&] { return work(*statement); });
 }
 

@@ -9,8 +9,7 @@ namespace {
 SQLRETURN allocateEnvironment(SQLHANDLE* out)
 {
     readTestEnvironment();
-    Failure ignored; // there is no handle yet that could keep it
-    if (isFaulty("SQLAllocHandle", ignored))
+    if (faultStrikes("SQLAllocHandle", nullptr)) // there is no handle yet that could say why
         return SQL_ERROR;
     auto environment = std::make_unique<Environment>();
     *out = environments().add(environment.get());

@@ -69,6 +69,10 @@ SQLRETURN SQL_API SQLPutData(SQLHSTMT handle, SQLPOINTER data, SQLLEN length)
 
 SQLRETURN SQL_API SQLCancel(SQLHSTMT handle)
 {
+    // A running statement belongs to another thread: its diagnostics are not to be touched.
+    Statement* running = statements().find(handle);
+    if (running && running->isRunning())
+        return running->cancel();
     return onStatement(handle, "SQLCancel", [](Statement& s) { return s.cancel(); });
 }
 

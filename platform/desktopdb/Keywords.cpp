@@ -3,98 +3,102 @@
 
 #include <algorithm>
 #include <array>
-#include <utility>
 
 namespace desktopdb {
 
 namespace {
-using Entry = std::pair<std::string_view, Keyword>;
-
-constexpr Entry kKeywords[] = {
-    {"ADD", Keyword::Add},
-    {"ALL", Keyword::All},
-    {"ALTER", Keyword::Alter},
-    {"AND", Keyword::And},
-    {"AS", Keyword::As},
-    {"BEGIN", Keyword::Begin},
-    {"BETWEEN", Keyword::Between},
-    {"BY", Keyword::By},
-    {"CHECK", Keyword::Check},
-    {"COMMIT", Keyword::Commit},
-    {"CONFLICT", Keyword::Conflict},
-    {"CONSTRAINT", Keyword::Constraint},
-    {"CREATE", Keyword::Create},
-    {"DEFAULT", Keyword::Default},
-    {"DELETE", Keyword::Delete},
-    {"DISTINCT", Keyword::Distinct},
-    {"DO", Keyword::Do},
-    {"DROP", Keyword::Drop},
-    {"END", Keyword::End},
-    {"ESCAPE", Keyword::Escape},
-    {"EXCEPT", Keyword::Except},
-    {"EXISTS", Keyword::Exists},
-    {"EXPLAIN", Keyword::Explain},
-    {"FOREIGN", Keyword::Foreign},
-    {"FROM", Keyword::From},
-    {"GROUP", Keyword::Group},
-    {"HAVING", Keyword::Having},
-    {"IF", Keyword::If},
-    {"IN", Keyword::In},
-    {"INDEX", Keyword::Index},
-    {"INSERT", Keyword::Insert},
-    {"INTERSECT", Keyword::Intersect},
-    {"INTO", Keyword::Into},
-    {"IS", Keyword::Is},
-    {"JOIN", Keyword::Join},
-    {"LCASE", Keyword::Lcase},
-    {"LIKE", Keyword::Like},
-    {"LIMIT", Keyword::Limit},
-    {"LOWER", Keyword::Lower},
-    {"NLS_DATE_FORMAT", Keyword::NlsDateFormat},
-    {"NOT", Keyword::Not},
-    {"NULL", Keyword::Null},
-    {"ON", Keyword::On},
-    {"OR", Keyword::Or},
-    {"ORDER", Keyword::Order},
-    {"PRAGMA", Keyword::Pragma},
-    {"PRIMARY", Keyword::Primary},
-    {"REFERENCES", Keyword::References},
-    {"REPLACE", Keyword::Replace},
-    {"RETURNING", Keyword::Returning},
-    {"ROLLBACK", Keyword::Rollback},
-    {"SELECT", Keyword::Select},
-    {"SESSION", Keyword::Session},
-    {"SET", Keyword::Set},
-    {"TABLE", Keyword::Table},
-    {"TRIGGER", Keyword::Trigger},
-    {"UCASE", Keyword::Ucase},
-    {"UNION", Keyword::Union},
-    {"UNIQUE", Keyword::Unique},
-    {"UPDATE", Keyword::Update},
-    {"UPPER", Keyword::Upper},
-    {"USING", Keyword::Using},
-    {"VALUES", Keyword::Values},
-    {"VIEW", Keyword::View},
-    {"WHERE", Keyword::Where},
-    {"WINDOW", Keyword::Window},
-    {"WITH", Keyword::With},
+struct Entry {
+    std::string_view text;
+    WordFacts facts;
 };
 
-// Words that the engine's grammar never takes as a name. Sorted.
-constexpr std::string_view kReserved[] = {"ADD", "ALL", "ALTER", "AND", "AS", "AUTOINCREMENT",
-    "BETWEEN", "CASE", "CHECK", "COLLATE", "COMMIT", "CONSTRAINT", "CREATE", "DEFAULT",
-    "DEFERRABLE", "DELETE", "DISTINCT", "DROP", "ELSE", "ESCAPE", "EXISTS", "FOREIGN", "FROM",
-    "GROUP", "HAVING", "IN", "INDEX", "INSERT", "INTERSECT", "INTO", "IS", "ISNULL", "JOIN",
-    "LIMIT", "NOT", "NOTHING", "NOTNULL", "NULL", "ON", "OR", "ORDER", "PRIMARY", "REFERENCES",
-    "RETURNING", "SELECT", "SET", "TABLE", "THEN", "TO", "TRANSACTION", "UNION", "UNIQUE", "UPDATE",
-    "USING", "VALUES", "WHEN", "WHERE"};
-static_assert(std::ranges::is_sorted(kReserved));
+// All others are plain names without a meaning.
+constexpr Entry kWords[] = {
+    {"ADD", {Keyword::Add, true}},
+    {"ALL", {Keyword::All, true}},
+    {"ALTER", {Keyword::Alter, true}},
+    {"AND", {Keyword::And, true}},
+    {"AS", {Keyword::As, true}},
+    {"AUTOINCREMENT", {Keyword::None, true}},
+    {"BEGIN", {Keyword::Begin, false}},
+    {"BETWEEN", {Keyword::Between, true}},
+    {"BY", {Keyword::By, false}},
+    {"CASE", {Keyword::None, true}},
+    {"CHECK", {Keyword::Check, true}},
+    {"COLLATE", {Keyword::None, true}},
+    {"COMMIT", {Keyword::Commit, true}},
+    {"CONFLICT", {Keyword::Conflict, false}},
+    {"CONSTRAINT", {Keyword::Constraint, true}},
+    {"CREATE", {Keyword::Create, true}},
+    {"DEFAULT", {Keyword::Default, true}},
+    {"DEFERRABLE", {Keyword::None, true}},
+    {"DELETE", {Keyword::Delete, true}},
+    {"DISTINCT", {Keyword::Distinct, true}},
+    {"DO", {Keyword::Do, false}},
+    {"DROP", {Keyword::Drop, true}},
+    {"ELSE", {Keyword::None, true}},
+    {"END", {Keyword::End, false}},
+    {"ESCAPE", {Keyword::Escape, true}},
+    {"EXCEPT", {Keyword::Except, true}},
+    {"EXISTS", {Keyword::Exists, true}},
+    {"EXPLAIN", {Keyword::Explain, false}},
+    {"FOREIGN", {Keyword::Foreign, true}},
+    {"FROM", {Keyword::From, true}},
+    {"GROUP", {Keyword::Group, true}},
+    {"HAVING", {Keyword::Having, true}},
+    {"IF", {Keyword::If, false}},
+    {"IN", {Keyword::In, true}},
+    {"INDEX", {Keyword::Index, true}},
+    {"INSERT", {Keyword::Insert, true}},
+    {"INTERSECT", {Keyword::Intersect, true}},
+    {"INTO", {Keyword::Into, true}},
+    {"IS", {Keyword::Is, true}},
+    {"ISNULL", {Keyword::None, true}},
+    {"JOIN", {Keyword::Join, true}},
+    {"LCASE", {Keyword::Lcase, false}},
+    {"LIKE", {Keyword::Like, false}},
+    {"LIMIT", {Keyword::Limit, true}},
+    {"LOWER", {Keyword::Lower, false}},
+    {"NLS_DATE_FORMAT", {Keyword::NlsDateFormat, false}},
+    {"NOT", {Keyword::Not, true}},
+    {"NOTHING", {Keyword::None, true}},
+    {"NOTNULL", {Keyword::None, true}},
+    {"NULL", {Keyword::Null, true}},
+    {"ON", {Keyword::On, true}},
+    {"OR", {Keyword::Or, true}},
+    {"ORDER", {Keyword::Order, true}},
+    {"PRAGMA", {Keyword::Pragma, false}},
+    {"PRIMARY", {Keyword::Primary, true}},
+    {"REFERENCES", {Keyword::References, true}},
+    {"REPLACE", {Keyword::Replace, false}},
+    {"RETURNING", {Keyword::Returning, true}},
+    {"ROLLBACK", {Keyword::Rollback, false}},
+    {"SELECT", {Keyword::Select, true}},
+    {"SESSION", {Keyword::Session, false}},
+    {"SET", {Keyword::Set, true}},
+    {"TABLE", {Keyword::Table, true}},
+    {"THEN", {Keyword::None, true}},
+    {"TO", {Keyword::None, true}},
+    {"TRANSACTION", {Keyword::None, true}},
+    {"TRIGGER", {Keyword::Trigger, false}},
+    {"UCASE", {Keyword::Ucase, false}},
+    {"UNION", {Keyword::Union, true}},
+    {"UNIQUE", {Keyword::Unique, true}},
+    {"UPDATE", {Keyword::Update, true}},
+    {"UPPER", {Keyword::Upper, false}},
+    {"USING", {Keyword::Using, true}},
+    {"VALUES", {Keyword::Values, true}},
+    {"VIEW", {Keyword::View, false}},
+    {"WHEN", {Keyword::None, true}},
+    {"WHERE", {Keyword::Where, true}},
+    {"WINDOW", {Keyword::Window, false}},
+    {"WITH", {Keyword::With, false}},
+};
 
-constexpr size_t kLongestKeyword = 15;
-constexpr size_t kLongestReserved = 13;
+constexpr size_t kLongestWord = 15;
 constexpr size_t kBuckets = 128;
 
-// Length and first two letters tell the keywords apart well enough for short chains.
+// Length and first two letters tell the words apart well enough for short chains.
 constexpr size_t bucketOf(std::string_view upper)
 {
     const auto first = static_cast<unsigned char>(upper[0]);
@@ -102,23 +106,23 @@ constexpr size_t bucketOf(std::string_view upper)
     return (first * 5u + second * 11u + upper.size() * 3u) % kBuckets;
 }
 
-struct KeywordIndex {
+struct WordIndex {
     std::array<signed char, kBuckets> head{};
-    std::array<signed char, std::size(kKeywords)> next{};
+    std::array<signed char, std::size(kWords)> next{};
 };
 
-constexpr KeywordIndex makeIndex()
+constexpr WordIndex makeIndex()
 {
-    KeywordIndex index;
+    WordIndex index;
     index.head.fill(-1);
-    for (size_t i = 0; i < std::size(kKeywords); ++i) {
-        const size_t bucket = bucketOf(kKeywords[i].first);
+    for (size_t i = 0; i < std::size(kWords); ++i) {
+        const size_t bucket = bucketOf(kWords[i].text);
         index.next[i] = index.head[bucket];
         index.head[bucket] = static_cast<signed char>(i);
     }
     return index;
 }
-constexpr KeywordIndex kIndex = makeIndex();
+constexpr WordIndex kIndex = makeIndex();
 
 constexpr char upperOf(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
 
@@ -129,24 +133,17 @@ std::string_view upperInto(char* buffer, std::string_view word)
 }
 } // namespace
 
-Keyword keywordOf(std::string_view word)
+WordFacts factsOf(std::string_view word)
 {
-    char buffer[kLongestKeyword];
-    if (word.empty() || word.size() > kLongestKeyword)
-        return Keyword::None;
+    char buffer[kLongestWord];
+    if (word.empty() || word.size() > kLongestWord)
+        return {};
     const std::string_view upper = upperInto(buffer, word);
     for (int i = kIndex.head[bucketOf(upper)]; i >= 0; i = kIndex.next[static_cast<size_t>(i)]) {
-        if (kKeywords[i].first == upper)
-            return kKeywords[i].second;
+        if (kWords[i].text == upper)
+            return kWords[i].facts;
     }
-    return Keyword::None;
-}
-
-bool isReserved(std::string_view word)
-{
-    char buffer[kLongestReserved];
-    return word.size() <= kLongestReserved
-        && std::ranges::binary_search(kReserved, upperInto(buffer, word));
+    return {};
 }
 
 bool sameWord(std::string_view a, std::string_view b)

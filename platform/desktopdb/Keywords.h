@@ -77,11 +77,13 @@ enum class Keyword : unsigned char {
     With,
 };
 
-/// Without regard to case.
-Keyword keywordOf(std::string_view word);
+struct WordFacts {
+    Keyword keyword = Keyword::None;
+    bool reserved = false; ///< the engine does not take the word as a plain name
+};
 
-/// Whether the engine would not take `word` as a plain name.
-bool isReserved(std::string_view word);
+/// Without regard to case.
+WordFacts factsOf(std::string_view word);
 
 /// Comparison of ASCII text without regard to case.
 bool sameWord(std::string_view a, std::string_view b);

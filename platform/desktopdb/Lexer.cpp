@@ -33,8 +33,11 @@ public:
         const size_t start = pos_;
         token.kind = pos_ < sql_.size() ? take() : TokenKind::End;
         token.text = sql_.substr(start, pos_ - start);
-        if (token.kind == TokenKind::Word)
-            token.word = keywordOf(token.text);
+        if (token.kind == TokenKind::Word) {
+            const WordFacts facts = factsOf(token.text);
+            token.word = facts.keyword;
+            token.reserved = facts.reserved;
+        }
         return token;
     }
 
@@ -195,6 +198,7 @@ private:
 void scan(std::string_view sql, std::vector<Token>& tokens)
 {
     tokens.clear();
+    tokens.reserve(sql.size() / 4 + 2);
     Scanner scanner(sql);
     do
         tokens.push_back(scanner.next());

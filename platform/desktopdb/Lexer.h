@@ -33,7 +33,8 @@ enum class ParameterForm : unsigned char { AsIs, LikePattern, DayFirstDate };
 /// A piece of a statement. Points only, into the statement or into what the rewriter put in.
 struct Token {
     TokenKind kind = TokenKind::End;
-    Keyword word = Keyword::None;             ///< set for words only
+    Keyword word = Keyword::None; ///< set for words only
+    bool reserved = false;        ///< the engine would not take the word as a plain name
     ParameterForm form = ParameterForm::AsIs; ///< for parameters only
     std::string_view lead{};                  ///< white space and comments in front of it
     std::string_view text{};

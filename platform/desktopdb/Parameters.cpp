@@ -115,8 +115,6 @@ bool Parameters::read(size_t count, std::vector<Value>& values, Failure& failure
             source.buffer = data->bytes.data();
             source.length = data->isNull ? SQL_NULL_DATA : static_cast<SQLLEN>(data->bytes.size());
         }
-        if (source.cType == SQL_C_DEFAULT)
-            source.cType = defaultCType(source.sqlType);
         if (!readSource(source, values[i], failure)) {
             failure.text += " (parameter " + std::to_string(i + 1) + ")";
             return false;

@@ -9,7 +9,7 @@
 
 namespace desktopdb {
 
-/// A parameter as the application bound it.
+/// A parameter as the application bound it, with its C type named.
 struct BoundParameter {
     SQLSMALLINT cType = SQL_C_CHAR;
     SQLSMALLINT sqlType = SQL_VARCHAR;

@@ -288,7 +288,7 @@ void bracketReservedNames(TokenList& tokens, StatementKind kind)
     int depth = 0;
     for (size_t i = 0; i < tokens.size(); ++i) {
         const TokenKind before = i ? tokens.kind(i - 1) : TokenKind::End;
-        if (tokens.kind(i) == TokenKind::Word && isReserved(tokens[i].text)) {
+        if (tokens.kind(i) == TokenKind::Word && tokens[i].reserved) {
             const bool columnStart = columnsFollow && depth == 1
                 && (before == TokenKind::Open || before == TokenKind::Comma);
             if (isNameHere(tokens, i, kind, columnStart))
@@ -296,6 +296,10 @@ void bracketReservedNames(TokenList& tokens, StatementKind kind)
         }
         depth += tokens.kind(i) == TokenKind::Open;
         depth -= tokens.kind(i) == TokenKind::Close;
+        // A view's query and a trigger's body are statements like any other.
+        const bool opensBody = tokens.word(i) == Keyword::Begin || tokens.word(i) == Keyword::As;
+        if (kind == StatementKind::Define && depth == 0 && opensBody)
+            kind = StatementKind::Change;
     }
 }
 

@@ -55,6 +55,8 @@ const char* stateOf(int extendedCode, std::string_view message)
         return "40001";
     case SQLITE_INTERRUPT:
         return "HY008";
+    case SQLITE_ABORT:
+        return "24000"; // the rows went away with a rollback
     case SQLITE_NOMEM:
         return "HY001";
     case SQLITE_TOOBIG:
@@ -111,20 +113,23 @@ public:
 
     int columnCount() const override { return sqlite3_column_count(statement_); }
 
+    // By way of the value object: each call on the statement itself would check it anew. That is
+    // allowed because the connection is opened without mutexes.
     Cell cell(int column) const override
     {
-        switch (sqlite3_column_type(statement_, column)) {
+        sqlite3_value* value = sqlite3_column_value(statement_, column);
+        switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
-            return Cell::ofInteger(sqlite3_column_int64(statement_, column));
+            return Cell::ofInteger(sqlite3_value_int64(value));
         case SQLITE_FLOAT:
-            return Cell::ofReal(sqlite3_column_double(statement_, column));
+            return Cell::ofReal(sqlite3_value_double(value));
         case SQLITE_TEXT: {
-            const void* text = sqlite3_column_text(statement_, column);
-            return Cell::ofText(bytes(text, column));
+            const void* text = sqlite3_value_text(value);
+            return Cell::ofText(bytes(text, value));
         }
         case SQLITE_BLOB: {
-            const void* blob = sqlite3_column_blob(statement_, column);
-            return Cell::ofBlob(bytes(blob, column));
+            const void* blob = sqlite3_value_blob(value);
+            return Cell::ofBlob(bytes(blob, value));
         }
         default:
             return {};
@@ -168,10 +173,12 @@ public:
     std::int64_t changes() const override { return changes_; }
 
 private:
-    std::string_view bytes(const void* data, int column) const
+    // An empty blob has no address.
+    static std::string_view bytes(const void* data, sqlite3_value* value)
     {
-        return {static_cast<const char*>(data),
-            static_cast<size_t>(sqlite3_column_bytes(statement_, column))};
+        return data ? std::string_view(
+                   static_cast<const char*>(data), static_cast<size_t>(sqlite3_value_bytes(value)))
+                    : std::string_view();
     }
 
     int bindCell(int number, const Cell& cell)
@@ -204,7 +211,11 @@ public:
         : db_(db)
     {
     }
-    ~SqliteEngine() override { sqlite3_close_v2(db_); }
+    ~SqliteEngine() override
+    {
+        schemaVersion_.reset();
+        sqlite3_close_v2(db_);
+    }
     SqliteEngine(const SqliteEngine&) = delete;
     SqliteEngine& operator=(const SqliteEngine&) = delete;
 
@@ -355,7 +366,10 @@ std::unique_ptr<Engine> openSqlite(const OpenOptions& options, Failure& failure)
     sqlite3* db = nullptr;
     const int flags =
         SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | (options.create ? SQLITE_OPEN_CREATE : 0);
-    const int code = sqlite3_open_v2(options.file.c_str(), &db, flags, nullptr);
+    // As an absolute path the name is a file's, whatever it looks like to the engine.
+    std::error_code noFolder;
+    const auto path = std::filesystem::absolute(options.file, noFolder);
+    const int code = sqlite3_open_v2(path.c_str(), &db, flags, nullptr);
     auto engine = std::make_unique<SqliteEngine>(db);
     if (code != SQLITE_OK)
         failure = failureOf(db);

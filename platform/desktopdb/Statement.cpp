@@ -54,7 +54,11 @@ bool Statement::compile(std::string_view sql)
 
 SQLRETURN Statement::prepare(std::string_view sql)
 {
-    if (!mayStart() || !compile(sql))
+    if (!mayStart())
+        return SQL_ERROR;
+    // Columns are asked of a prepared statement before it runs and notices changed tables itself.
+    connection_.noticeTableChanges();
+    if (!compile(sql))
         return SQL_ERROR;
     prepared_ = true;
     state_ = State::Prepared;
@@ -114,8 +118,16 @@ SQLRETURN Statement::runEngine()
     if (!bindValues(failure) || (writes && !connection_.beginForWrite(failure)))
         return abandon(failure);
     rows_ = compiled_.get();
-    const Step step = rows_->step(failure);
+    const Step step = stepRows(failure);
     return afterFirstStep(step, failure);
+}
+
+Step Statement::stepRows(Failure& failure)
+{
+    running_.store(true, std::memory_order_release);
+    const Step step = rows_->step(failure);
+    running_.store(false, std::memory_order_release);
+    return step;
 }
 
 bool Statement::bindValues(Failure& failure)
@@ -141,7 +153,7 @@ SQLRETURN Statement::afterFirstStep(Step step, const Failure& failure)
     if (step == Step::Failed)
         return abandon(failure);
     if (text_.kind == StatementKind::Define)
-        connection_.forgetTables();
+        connection_.forgetCompiled();
     rowCount_ = text_.kind == StatementKind::Change ? compiled_->changes() : -1;
     if (rows_->columnCount() == 0) {
         endRun();
@@ -191,7 +203,10 @@ SQLRETURN Statement::bindParameter(
         return diagnostics_.fail("07009", "parameters are numbered from 1");
     if (ioType != SQL_PARAM_INPUT && ioType != kSetParamType)
         return diagnostics_.fail("HY105", "parameters are input only");
-    parameters_.bind(number - 1u, bound);
+    BoundParameter resolved = bound;
+    if (bound.cType == SQL_C_DEFAULT)
+        resolved.cType = defaultCType(bound.sqlType);
+    parameters_.bind(number - 1u, resolved);
     return SQL_SUCCESS;
 }
 
@@ -217,6 +232,10 @@ SQLRETURN Statement::putData(SQLPOINTER data, SQLLEN length)
 
 SQLRETURN Statement::cancel()
 {
+    if (isRunning()) {
+        connection_.engine().interrupt();
+        return SQL_SUCCESS;
+    }
     if (state_ == State::NeedsData) {
         parameters_.forgetData();
         endRun();

@@ -7,6 +7,7 @@
 #include "platform/desktopdb/Parameters.h"
 #include "platform/desktopdb/Rewriter.h"
 
+#include <atomic>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -42,7 +43,10 @@ public:
     SQLRETURN bindParameter(SQLUSMALLINT number, SQLSMALLINT ioType, const BoundParameter& bound);
     SQLRETURN parameterData(SQLPOINTER* token);
     SQLRETURN putData(SQLPOINTER data, SQLLEN length);
+    /// Ends the wait for parameter data. A statement that runs in another thread fails soon; then
+    /// nothing else is touched, so it may be called beside that thread.
     SQLRETURN cancel();
+    bool isRunning() const { return running_.load(std::memory_order_acquire); }
     SQLRETURN parameterCount(SQLSMALLINT* count);
 
     SQLRETURN fetch();
@@ -74,6 +78,7 @@ private:
     // Statement.cpp: states and running
     bool mayStart();
     bool compile(std::string_view sql);
+    Step stepRows(Failure& failure);
     SQLRETURN start();
     SQLRETURN run();
     SQLRETURN runEngine();
@@ -96,10 +101,10 @@ private:
     Connection& connection_;
     Diagnostics diagnostics_;
     State state_ = State::Empty;
+    std::atomic<bool> running_{false}; // inside the engine
 
     Rewritten text_;
     bool prepared_ = false; // the text outlives its runs
-    std::string arrived_;   // the text as it came, kept while recording
     std::unique_ptr<EngineStatement> compiled_;
     std::unique_ptr<RowSource> own_;
     RowSource* rows_ = nullptr; // the compiled statement or the driver's own rows

@@ -1,41 +1,49 @@
 // platform/desktopdb/StatementCache.cpp
 #include "platform/desktopdb/StatementCache.h"
 
+#include <algorithm>
+
 namespace desktopdb {
 
 std::unique_ptr<EngineStatement> StatementCache::take(const std::string& sql)
 {
-    const auto found = bySql_.find(sql);
-    if (found == bySql_.end()) {
-        ++misses_;
-        return nullptr;
-    }
-    ++hits_;
-    auto statement = std::move(found->second->statement);
-    const auto entry = found->second;
-    bySql_.erase(found);
-    idle_.erase(entry);
-    return statement;
+    Slot* slot = find(std::hash<std::string>()(sql), sql, true);
+    ++(slot ? hits_ : misses_);
+    return slot ? std::move(slot->idle) : nullptr;
 }
 
 void StatementCache::give(const std::string& sql, std::unique_ptr<EngineStatement> statement)
 {
-    idle_.push_front({sql, std::move(statement)});
-    bySql_.emplace(idle_.front().sql, idle_.begin());
-    if (idle_.size() <= capacity_)
-        return;
-    const auto oldest = std::prev(idle_.end());
-    auto [it, end] = bySql_.equal_range(oldest->sql);
-    while (it->second != oldest)
-        ++it;
-    bySql_.erase(it);
-    idle_.erase(oldest);
+    const size_t hash = std::hash<std::string>()(sql);
+    Slot* slot = find(hash, sql, false);
+    if (!slot) {
+        slot = &slotToFill();
+        slot->hash = hash;
+        slot->sql = sql;
+    }
+    slot->idle = std::move(statement);
+    slot->lastUse = ++uses_;
 }
 
-void StatementCache::clear()
+size_t StatementCache::size() const
 {
-    bySql_.clear();
-    idle_.clear();
+    return static_cast<size_t>(
+        std::ranges::count_if(slots_, [](const Slot& slot) { return slot.idle != nullptr; }));
+}
+
+StatementCache::Slot* StatementCache::find(size_t hash, const std::string& sql, bool idle)
+{
+    const auto found = std::ranges::find_if(slots_, [&](const Slot& slot) {
+        return slot.hash == hash && (slot.idle != nullptr) == idle && slot.sql == sql;
+    });
+    return found == slots_.end() ? nullptr : &*found;
+}
+
+StatementCache::Slot& StatementCache::slotToFill()
+{
+    if (slots_.size() < capacity_)
+        return slots_.emplace_back();
+    return *std::ranges::min_element(slots_, {}, &Slot::lastUse);
 }
 
 } // namespace desktopdb

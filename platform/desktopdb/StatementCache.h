@@ -3,10 +3,9 @@
 
 #include "platform/desktopdb/Engine.h"
 
-#include <list>
 #include <memory>
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 namespace desktopdb {
 
@@ -23,20 +22,28 @@ public:
     std::unique_ptr<EngineStatement> take(const std::string& sql);
     /// Takes back a statement that has been reset.
     void give(const std::string& sql, std::unique_ptr<EngineStatement> statement);
-    void clear();
+    void clear() { slots_.clear(); }
 
-    size_t size() const { return idle_.size(); }
+    /// Number of idle statements.
+    size_t size() const;
     long hits() const { return hits_; }
     long misses() const { return misses_; }
 
 private:
-    struct Entry {
+    // A slot whose statement is out keeps its text for the way back. The slots are few, so they
+    // are searched one by one, which allocates nothing.
+    struct Slot {
+        size_t hash;
         std::string sql;
-        std::unique_ptr<EngineStatement> statement;
+        std::unique_ptr<EngineStatement> idle;
+        long lastUse;
     };
+    Slot* find(size_t hash, const std::string& sql, bool idle);
+    Slot& slotToFill();
+
     size_t capacity_;
-    std::list<Entry> idle_; // used last in front
-    std::unordered_multimap<std::string_view, std::list<Entry>::iterator> bySql_;
+    std::vector<Slot> slots_;
+    long uses_ = 0;
     long hits_ = 0;
     long misses_ = 0;
 };

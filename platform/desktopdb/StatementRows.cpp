@@ -12,7 +12,7 @@ Step Statement::nextRow(Failure& failure)
     if (isPeeked_)
         step = peeked_;
     else if (!atEnd_)
-        step = rows_->step(failure);
+        step = stepRows(failure);
     isPeeked_ = false;
     if (maxRows_ && rowNumber_ == maxRows_ && step == Step::Row)
         step = Step::Done;

@@ -116,7 +116,7 @@ std::string textOf(const Cell& value)
 }
 } // namespace
 
-bool testaids::countCall(const char* function, Failure& failure)
+bool testaids::countCall(const char* function, Diagnostics* diagnostics)
 {
     const std::lock_guard lock(state().mutex);
     Fault& fault = state().fault;
@@ -128,7 +128,8 @@ bool testaids::countCall(const char* function, Failure& failure)
         return false;
     if (fault.fired.empty())
         fault.fired = function;
-    failure = fault.failure;
+    if (diagnostics)
+        diagnostics->fail(fault.failure);
     return true;
 }
 

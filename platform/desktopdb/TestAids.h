@@ -24,14 +24,15 @@ std::string recordFile();
 namespace testaids {
 extern std::atomic<bool> faultSet;
 extern std::atomic<bool> recording;
-bool countCall(const char* function, Failure& failure);
+bool countCall(const char* function, Diagnostics* diagnostics);
 } // namespace testaids
 
-/// Counts a call of `function`; true with `failure` set when this is the one to fail.
-inline bool isFaulty(const char* function, Failure& failure)
+/// Counts a call of `function`; when this is the one to fail, true with the failure noted in
+/// `diagnostics`, unless they are null.
+inline bool faultStrikes(const char* function, Diagnostics* diagnostics)
 {
     return testaids::faultSet.load(std::memory_order_relaxed)
-        && testaids::countCall(function, failure);
+        && testaids::countCall(function, diagnostics);
 }
 
 inline bool isRecording() { return testaids::recording.load(std::memory_order_relaxed); }

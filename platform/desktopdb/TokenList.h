@@ -3,7 +3,7 @@
 
 #include "platform/desktopdb/Lexer.h"
 
-#include <deque>
+#include <list>
 #include <string>
 
 namespace desktopdb {
@@ -58,7 +58,7 @@ private:
     std::string_view keep(std::string text) { return texts_.emplace_back(std::move(text)); }
 
     std::vector<Token> tokens_;
-    std::deque<std::string> texts_; // never moves what it holds
+    std::list<std::string> texts_; // never moves what it holds
     Token end_;
 };
 
