@@ -111,8 +111,10 @@ private:
         }
         MappedColumn& mapped = file_.columns[static_cast<std::size_t>(match->column)];
         int& rank = ranks_[static_cast<std::size_t>(match->column)];
-        if (mapped.field >= 0 && plainName(mapped.header) == plainName(header))
+        if (mapped.field >= 0 && plainName(mapped.header) == plainName(header)) {
             report_.fail("the column " + header + " is there twice");
+            return;
+        }
         if (mapped.field >= 0 && rank <= match->rank) {
             leave(header);
             return;

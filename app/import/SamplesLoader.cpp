@@ -76,6 +76,8 @@ private:
     {
         if (rowState == Cell::Good)
             return rowUnits;
+        if (rowState == Cell::Bad)
+            return 'M'; // the row is refused
         cells.report().noteOnce(
             "", "", "depths without a unit are taken to be in the units of their well");
         return well_ ? well_->units : 'M';

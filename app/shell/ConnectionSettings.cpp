@@ -3,19 +3,30 @@
 
 #include "util/TextUtil.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace {
 
+// Behind the brace that closes the value in braces at `start`; a doubled one is part of it.
+std::size_t bracesEnd(std::string_view text, std::size_t start)
+{
+    for (std::size_t i = start + 1; i < text.size(); ++i) {
+        if (text[i] != '}')
+            continue;
+        if (i + 1 == text.size() || text[i + 1] != '}')
+            return i + 1;
+        ++i;
+    }
+    return text.size();
+}
+
 // Where the value that begins at `start` ends: at the next semicolon outside braces.
 std::size_t valueEnd(std::string_view text, std::size_t start)
 {
-    if (start < text.size() && text[start] == '{') {
-        const std::size_t closing = text.find('}', start);
-        if (closing == std::string_view::npos)
-            return text.size();
-        start = closing;
-    }
+    start = std::min(text.find_first_not_of(" \t", start), text.size());
+    if (start < text.size() && text[start] == '{')
+        start = bracesEnd(text, start);
     return std::min(text.find(';', start), text.size());
 }
 

@@ -1,0 +1,155 @@
+// tests/app/BatchTest.cpp
+#include "tests/app/Files.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <ostream>
+
+#include <sys/wait.h>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string contentOf(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+// The program itself, run in a shell with what stands behind its name.
+class Program : public testing::Test {
+protected:
+    int run(const std::string& arguments)
+    {
+        const auto outFile = folder.path() / "out.txt";
+        const auto errFile = folder.path() / "err.txt";
+        const std::string command = std::string("cd ") + folder.path().string()
+            + " && " ZONARIS_PROGRAM " " + arguments + " >out.txt 2>err.txt";
+        const int status = std::system(command.c_str());
+        out = contentOf(outFile);
+        err = contentOf(errFile);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    const Folder folder;
+    std::string out;
+    std::string err;
+};
+
+TEST_F(Program, CreatesImportsAndLists)
+{
+    const std::string set = ZONARIS_SOURCE_DIR "/examples/synthetic";
+    EXPECT_EQ(0, run("create a.zdb"));
+    EXPECT_EQ("Created a.zdb\n", out);
+    const std::string before = contentOf(folder.path() / "a.zdb");
+    EXPECT_EQ(1, run("--database a.zdb create"));
+    EXPECT_EQ("zonaris: a.zdb is there already; it was left as it is.\n", err);
+    EXPECT_EQ(before, contentOf(folder.path() / "a.zdb"));
+
+    EXPECT_EQ(0, run("--database a.zdb import --dry-run " + set));
+    EXPECT_THAT(out, HasSubstr("\nDry run: nothing was stored.\n"));
+    EXPECT_EQ(0, run("--database a.zdb wells"));
+    EXPECT_EQ("number  code  name  type  units  operator  field  country\n", out);
+
+    EXPECT_EQ(0, run("--database a.zdb --user AB import --strict " + set));
+    EXPECT_EQ("file         read  new  updated  unchanged  adjusted  refused\n"
+              "wells.csv       3    3        0          0         0        0\n"
+              "samples.csv    60   60        0          0         0        0\n"
+              "Stored.\n",
+        out);
+    EXPECT_EQ("", err);
+    EXPECT_EQ(0, run("import --database a.zdb --kind 2 " + set)) << "options may stand behind";
+    EXPECT_THAT(out, HasSubstr("\nNothing changed: all rows are in the database already.\n"));
+
+    for (const char* kind : {"0", "2"}) {
+        EXPECT_EQ(0, run(std::string("--database a.zdb wells --kind ") + kind));
+        EXPECT_EQ(
+            "number  code   name            type  units  operator   field      country\n"
+            "     1  SYN-1  \u00D8rnefjell 1     W     M      Synthetic  \u00D8RNEFJELL  NOWHERE\n"
+            "     2  SYN-2  Cape Dor\u00E9 2     W     F      Synthetic  CAPE DOR\u00C9  NOWHERE\n"
+            "     3  SYN-3  S\u00F6der\u00E5s quarry  O     M                            NOWHERE\n",
+            out);
+        EXPECT_EQ(0, run(std::string("--database a.zdb samples 3 --kind ") + kind));
+        EXPECT_THAT(out,
+            StartsWith("  depth [m]  top [m]  base [m]  type  label\n"
+                       "12.50-12.30    12.50     12.30  OC    \u00E5sen top\n"
+                       "11.20-11.00    11.20     11.00  OC    bed 8\n"));
+        EXPECT_THAT(out, HasSubstr("quarry's lip"));
+    }
+    EXPECT_EQ(0, run("--database a.zdb samples SYN-2"));
+    EXPECT_THAT(out, HasSubstr("\n5250.20-5250.40   5250.20    5250.40  CO    2-1 \"soft\"\n"));
+    EXPECT_EQ(0, run("--database a.zdb samples 'Cape Dor\u00E9 2' --units m"));
+    EXPECT_THAT(out, HasSubstr("\n1600.26-1600.32  1600.26   1600.32  CO    2-1 \"soft\"\n"));
+}
+
+TEST_F(Program, TellsRefusedRowsFromFailures)
+{
+    folder.write("wells.csv", "well_code\nA\n");
+    folder.write("samples.csv", "well_code,type,depth_m\nA,CU,1\nA,XX,2\nA,CU,\n");
+    ASSERT_EQ(0, run("create a.zdb"));
+    EXPECT_EQ(1, run("--database a.zdb import --dry-run --strict ."));
+    EXPECT_EQ(0, run("--database a.zdb import ."));
+    EXPECT_THAT(out, HasSubstr("samples.csv     3    2        0          0         1        1\n"));
+    EXPECT_THAT(err,
+        StartsWith("samples.csv:3: refused: type \"XX\": unknown sample type (CU, SC, CO, OC and"));
+    EXPECT_THAT(
+        err, testing::EndsWith("samples.csv:4: adjusted: has no depth; stored without one\n"));
+    EXPECT_EQ(1, run("--database a.zdb import --strict ."));
+    EXPECT_THAT(out, HasSubstr("Nothing changed: no row that could be stored was new."));
+    EXPECT_EQ(0, run("--database a.zdb samples A"));
+    EXPECT_EQ("depth [m]  top [m]  base [m]  type  label\n"
+              "                              CU\n"
+              "        1     1.00      1.00  CU\n",
+        out);
+
+    folder.write("samples.csv", "");
+    EXPECT_EQ(1, run("--database a.zdb import ."));
+    EXPECT_THAT(err, HasSubstr("samples.csv: failed: is empty\n"));
+    EXPECT_THAT(err, HasSubstr("zonaris: A file cannot be used; nothing was stored.\n"));
+}
+
+struct UsageCase {
+    const char* name;
+    const char* arguments;
+    int status;
+    const char* message; // in the one stream that is not empty
+};
+void PrintTo(const UsageCase& c, std::ostream* out) { *out << c.name; }
+
+const UsageCase kUsages[] = {
+    {"help", "--help", 0, "Exit status: 0 done, 1 failed, 2 wrong usage."},
+    {"help of a command", "import --help", 0, "--strict"},
+    {"version", "--version", 0, "zonaris "},
+    {"unknown option", "--nonsense", 2, "--nonsense"},
+    {"unknown command", "--database a.zdb export", 2, "export"},
+    {"no database", "wells", 2, "name it with --database or --connect"},
+    {"two databases", "--database a.zdb --connect DSN=x wells", 2, "--database excludes --connect"},
+    {"unknown kind", "--database a.zdb --kind 4 wells", 2, "--kind"},
+    {"long user", "--database a.zdb --user ABCDEF wells", 2, "--user: more than 5 bytes"},
+    {"unknown unit", "--database a.zdb samples A --units K", 2, "--units"},
+    {"no well", "--database a.zdb samples", 2, "WELL is required"},
+    {"nothing to import", "--database a.zdb import", 2, "INPUT is required"},
+    {"nothing to create", "create", 2, "name the file to create"},
+    {"a file to create twice", "--database a.zdb create b.zdb", 2, "the file is given twice"},
+    {"no such file", "--database none.zdb wells", 1, "There is no database file none.zdb"},
+    {"secrets stay secret", "--connect 'DSN=NO_SUCH;PWD=secret' wells", 1, "DSN=NO_SUCH;PWD=***\n"},
+};
+
+class Usage : public Program, public testing::WithParamInterface<UsageCase> {};
+
+TEST_P(Usage, HasAnExitStatusAndAWord)
+{
+    const auto& [name, arguments, status, message] = GetParam();
+    EXPECT_EQ(status, run(arguments));
+    EXPECT_THAT(status == 0 ? out : err, HasSubstr(message));
+    EXPECT_EQ("", status == 0 ? err : out);
+    EXPECT_THAT(out + err, testing::Not(HasSubstr("secret\n")));
+}
+INSTANTIATE_TEST_SUITE_P(Rules, Usage, testing::ValuesIn(kUsages));
+
+} // namespace
