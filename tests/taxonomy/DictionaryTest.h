@@ -36,6 +36,7 @@ inline std::string sent(std::string sql)
 struct Dictionary {
     Dictionary()
     {
+        db.run("PRAGMA synchronous = OFF");
         db.run("INSERT INTO CATEGORY VALUES ('FORAM', 'planktonic FORAMINIFERA', 'M'),"
                " ('NANNO', 'nannofossils', 'N')");
         db.run("INSERT INTO GENUS (gen_id, cat_mnem, q1, genus, q2, q3, sub_genus, q4) VALUES"

@@ -12,20 +12,25 @@
 /// what the list's faster ways must agree with.
 namespace plain {
 
-inline int names(const Taxon& a, const Taxon& b)
+inline int compare(const Taxon& a, const Taxon& b, const std::vector<int>& slots)
 {
-    if (const int genus = strcasecmp(a.genus(), b.genus()))
-        return genus;
-    if (const int species = strcasecmp(a.species(), b.species()))
-        return species;
-    return strcasecmp(a.subspecies(), b.subspecies());
+    int difference = 0;
+    for (std::size_t i = 0; difference == 0 && i < slots.size(); ++i)
+        difference = strcasecmp(a.field(slots[i]), b.field(slots[i]));
+    return difference;
 }
 
-inline int bySpecies(const Taxon& a, const Taxon& b)
+/// Whether `a` sorts after `b`. Insertion takes categories that differ in letter case for equal.
+inline bool sortsAfter(int mode, const Taxon& a, const Taxon& b, bool inserting)
 {
-    if (const int species = strcasecmp(a.species(), b.species()))
-        return species;
-    return strcasecmp(a.genus(), b.genus());
+    if (mode == 3)
+        return compare(a, b, {slot::species, slot::genus}) > 0;
+    if (mode == 4 && !inserting)
+        return a.sipm_code > b.sipm_code;
+    const int names = compare(a, b, {slot::genus, slot::species, slot::subspecies});
+    const int category = mode == 1 ? 0 : std::strcmp(a.category(), b.category());
+    const bool same = category == 0 || (inserting && compare(a, b, {slot::category}) == 0);
+    return category > 0 || (same && names > 0);
 }
 
 inline int insertSorted(GList& list, int mode, Taxon* taxon)
@@ -34,33 +39,11 @@ inline int insertSorted(GList& list, int mode, Taxon* taxon)
     GList::Walk walk(list);
     while (const auto* entry = static_cast<const Taxon*>(walk.next())) {
         ++compared;
-        const int category = std::strcmp(entry->category(), taxon->category());
-        const bool sameCategory = strcasecmp(entry->category(), taxon->category()) == 0;
-        const bool behind = mode == 1 ? names(*entry, *taxon) > 0
-            : mode == 3               ? bySpecies(*entry, *taxon) > 0
-                                      : category > 0 || (sameCategory && names(*entry, *taxon) > 0);
-        if (behind) {
-            list.insertAt(walk.node(), taxon);
-            return compared;
-        }
+        if (sortsAfter(mode, *entry, *taxon, true))
+            break;
     }
-    list.push(taxon);
+    list.insertAt(walk.node(), taxon);
     return compared;
-}
-
-inline bool sortsAfter(int mode, const Taxon& a, const Taxon& b)
-{
-    const int category = std::strcmp(a.category(), b.category());
-    switch (mode) {
-    case 1:
-        return names(a, b) > 0;
-    case 3:
-        return bySpecies(a, b) > 0;
-    case 4:
-        return a.sipm_code > b.sipm_code;
-    default:
-        return category > 0 || (category == 0 && names(a, b) > 0);
-    }
 }
 
 inline void sort(GList& list, int mode)
@@ -70,7 +53,7 @@ inline void sort(GList& list, int mode)
         list.reset();
         const Taxon* before = nullptr;
         while (auto* taxon = static_cast<Taxon*>(list.next())) {
-            if (before && sortsAfter(mode, *before, *taxon)) {
+            if (before && sortsAfter(mode, *before, *taxon, false)) {
                 list.moveUp();
                 moved = true;
             }

@@ -100,17 +100,6 @@ TEST_F(SearchText, SentAsComposed)
         "SELECT s.spec_id FROM " + tables + "WHERE g.gen_id = s.gen_id ", log.statements()[1]);
 }
 
-TEST_F(SearchText, SynonymsAreAskedForOneByOne)
-{
-    Patterns patterns;
-    patterns.text[3] = "minor";
-    patterns.text[1] = "Betina";
-    const StatementLog log;
-    patterns.text[3] = "%";
-    patterns.search(0);
-    EXPECT_EQ("SELECT pref FROM " + table("SYNONYMY") + " WHERE spec_id=103", log.statements()[1]);
-}
-
 TEST_F(SearchText, AFailedQuestionEndsTheSearchWithWhatIsThere)
 {
     db.run("DROP TABLE SYNONYMY");

@@ -150,16 +150,6 @@ TEST_F(Synonymy, PreferredTaxaStandForTheirTaxaInNamesAndSorts)
     EXPECT_EQ((Ids{104, 99, 103}), plain::ids(list));
 }
 
-TEST_F(Synonymy, SchemeName)
-{
-    EXPECT_STREQ("Scheme five", TaxonList::synonymySchemeName(5));
-    EXPECT_STREQ("", TaxonList::synonymySchemeName(6));
-    TaxonList::synonymySchemeName(5);
-    db.run("DROP TABLE SYNSCH");
-    EXPECT_STREQ("Scheme five", TaxonList::synonymySchemeName(6)) << "as it was";
-    EXPECT_THAT(screen.texts(), SizeIs(2));
-}
-
 TEST_F(Synonymy, TaxaOfAWell)
 {
     db.run("INSERT INTO TAXONOCC (well_id, samp_id, spec_id, disc_id) VALUES (7, 1, 104, 'M'),"
