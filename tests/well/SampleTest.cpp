@@ -1,5 +1,6 @@
 // tests/well/SampleTest.cpp
-#include "well/Sample.h"
+#include "db/CurrentUser.h"
+#include "tests/support/Restore.h"
 #include "tests/well/WellTest.h"
 
 namespace {
@@ -72,6 +73,7 @@ TEST(SampleDepths, AreShiftedThenConvertedThenNegated)
     EXPECT_NEAR(2000, s.GetBase('F', 0, 0), 1e-3);
     s.base = 0; // a sample's depth is its top then
     EXPECT_NEAR(1010, s.GetDepth('F', 0, 1), 1e-3);
+    EXPECT_EQ(0, s.IsInterval());
 }
 
 TEST(SampleSetters, ClearSavedWhenTheyChange)
@@ -112,6 +114,20 @@ TEST(SampleSetters, ClearSavedWhenTheyChange)
             joined(s.top, s.base, s.GetType(), s.GetTypeBit(), s.label.view(), s.grid_x, s.grid_y,
                 int(s.saved)));
     }
+}
+
+TEST(SampleSetters, KeepTheUserUnlessAnotherIsNamed)
+{
+    const Restore<FixedText<5>> user(currentUserAbr, "XYZ");
+    Sample made(1, 1, "CU", 'M'), read(1, 2, 1, "CU", 0, 0, 1);
+    EXPECT_EQ("XYZ|XYZ|", joined(read.creator.view(), read.modifier.view()));
+    made.SetCreated(Date(5, 3, 1998), "");
+    made.SetModified(Date(), "LONGNAME");
+    EXPECT_EQ("1998-03-05||XYZ|LONGN|",
+        joined(made.created.isoText(), made.modified.isoText(), made.creator.view(),
+            made.modifier.view()));
+    made.ClearMarks();
+    EXPECT_EQ("1|0|", joined(read.marks[3], made.marks[3]));
 }
 
 TEST(SampleLabel, IsComposed)

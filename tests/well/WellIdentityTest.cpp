@@ -49,9 +49,12 @@ TEST_F(WellIdentity, IsFoundOrLeftOpen)
     };
     for (const auto& c : kCases)
         EXPECT_EQ(c.expected, c.found) << c.name;
-    Well again(7L);
+    Well again;
+    again.FindByName("Well Seven", 10);
     again.FindByName("None", 4);
     EXPECT_EQ("0|C-7|None|the seventh|1|", identityOf(again));
+    again.FindByCode("C-7", 3);
+    EXPECT_EQ(headerOf(Well(7L)), headerOf(again));
     EXPECT_TRUE(boxes.boxes().empty());
 }
 
@@ -60,13 +63,16 @@ TEST_F(WellIdentity, GoesToTheDriverAsComposed)
     const StatementLog log;
     byName("None", 4);
     byCode("C-8", 3);
+    byName("Well Seven", 10);
     const std::string wells = " FROM " + table("WELLS");
     const std::string both = wells + " w, " + table("well_ident") + " v  WHERE w.";
     EXPECT_EQ((Statements{"SELECT v.well_id, v.well_code, v.descrip" + both
                       + "well_name='None' AND w.well_code=v.well_code ",
                   "SELECT well_code" + wells + " WHERE well_name='None'",
                   "SELECT v.well_id, w.well_name, w.units, v.descrip" + both
-                      + "well_code='C-8' AND w.well_code=v.well_code "}),
+                      + "well_code='C-8' AND w.well_code=v.well_code ",
+                  "SELECT v.well_id, v.well_code, v.descrip" + both
+                      + "well_name='Well Seven' AND w.well_code=v.well_code "}),
         log.statements());
 }
 
@@ -80,7 +86,9 @@ TEST_F(WellIdentity, GivesNames)
     Well well(7L);
     EXPECT_STREQ("Well Seven", well.StoredName());
     well.well_name = "None";
-    EXPECT_STREQ("", well.StoredName());
+    well.WriteHeader("C-7");
+    EXPECT_STREQ("None", well.StoredName());
+    EXPECT_STREQ("", well.StoredName()) << "rolled back";
 }
 
 std::string namesOf(const WellList& wells)
