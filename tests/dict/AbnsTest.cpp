@@ -1,0 +1,329 @@
+// tests/dict/AbnsTest.cpp
+#include "db/ErrorReporter.h"
+#include "db/ItemList.h"
+#include "db/Session.h"
+#include "dict/Abntrans.h"
+#include "dict/AbundanceSchemes.h"
+#include "tests/support/MessageLog.h"
+#include "tests/support/TestDatabase.h"
+
+#include <functional>
+#include <memory>
+#include <ostream>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+using Texts = std::vector<std::string>;
+
+namespace {
+
+/// Present, rare, marked, common, abundant.
+Abns ladder()
+{
+    Abns scheme;
+    scheme.addLevel("P", "Present", 0, 0);
+    scheme.addLevel("R", "Rare", 1, 3);
+    scheme.addLevel("+", "Marked", 2, 0);
+    scheme.addLevel("C", "Common", 5, 0);
+    scheme.addLevel("A", "Abundant", 20, 50);
+    return scheme;
+}
+
+TEST(Abns, CountsGiveTheHighestLevelTheyReach)
+{
+    const Abns scheme = ladder();
+    for (const auto& [count, abr] : {std::pair{-1, "P"}, {0, "P"}, {1, "R"}, {3, "R"}, {4, "R"},
+             {5, "C"}, {19, "C"}, {20, "A"}, {500, "A"}})
+        EXPECT_STREQ(abr, scheme.abrForCount(count)) << count;
+    Abns marked;
+    marked.addLevel("+1", "First", 0, 0);
+    marked.addLevel("+2", "Second", 1, 0);
+    EXPECT_STREQ("+1", marked.abrForCount(9)) << "the first level is never passed over";
+}
+
+struct AbrCase {
+    const char* abr;
+    long value;
+    const char* name;
+    int level;
+};
+
+TEST(Abns, AbbreviationsGiveTheirLevelOrTheFirst)
+{
+    const Abns scheme = ladder();
+    for (const AbrCase& c : {AbrCase{"P", 0, "Present", 1}, {"R", 3, "Rare", 2},
+             {"+", 0, "Marked", 3}, {"C", 5, "Common", 4}, {"A", 50, "Abundant", 5},
+             {"Z", 0, "Present", 1}, {"a", 0, "Present", 1}, {"", 0, "", 1}, {nullptr, 0, "", 1}}) {
+        EXPECT_EQ(c.value, scheme.valueForAbr(c.abr)) << c.name;
+        EXPECT_STREQ(c.name, scheme.nameForAbr(c.abr));
+        EXPECT_EQ(c.level, scheme.levelOfAbr(c.abr)) << c.name;
+    }
+    Abns high;
+    high.addLevel("X", "First", 7, 0);
+    high.levels[0].output = 0; // as the database may hold it
+    EXPECT_EQ(7, high.valueForAbr("Z"));
+    EXPECT_EQ(0, high.valueForAbr("+")) << "whatever the levels are";
+    high.addLevel("X", "Second", 8, 0);
+    EXPECT_STREQ("Second", high.nameForAbr("X")) << "from above";
+}
+
+TEST(Abns, NamesAndValuesGiveTheirLevel)
+{
+    const Abns scheme = ladder();
+    EXPECT_STREQ("C", scheme.abrForName("Common"));
+    EXPECT_STREQ("P", scheme.abrForName("Present"));
+    EXPECT_STREQ("", scheme.abrForName("common"));
+    for (const auto& [value, level] :
+        {std::pair{-1.0F, 1}, {0.5F, 1}, {1.0F, 2}, {2.0F, 3}, {4.5F, 3}, {5.0F, 4}, {1e9F, 5}})
+        EXPECT_EQ(level, scheme.levelOfValue(value)) << value;
+}
+
+TEST(Abns, OutsideTheLevels)
+{
+    const Abns scheme = ladder();
+    EXPECT_STREQ("A", scheme.abrAt(4));
+    EXPECT_STREQ("Abundant", scheme.nameAt(4));
+    EXPECT_STREQ("Abundant", scheme.nameOrEmptyAt(4));
+    EXPECT_EQ(20, scheme.minAt(4));
+    EXPECT_EQ(50, scheme.outputAt(4));
+    for (const int i : {-1, 5, 12}) {
+        EXPECT_STREQ("Undefined", scheme.abrAt(i));
+        EXPECT_STREQ("Undefined", scheme.nameAt(i));
+        EXPECT_STREQ("", scheme.nameOrEmptyAt(i));
+        EXPECT_EQ(0, scheme.minAt(i));
+        EXPECT_EQ(0, scheme.outputAt(i));
+    }
+    Abns empty = ladder();
+    empty.clearLevels();
+    EXPECT_EQ((Texts{"", "", ""}),
+        (Texts{empty.abrForCount(1), empty.nameForAbr("P"), empty.abrForName("Present")}));
+    EXPECT_EQ(0, empty.valueForAbr("R") + empty.levelOfAbr("R") + empty.levelOfValue(5));
+}
+
+TEST(Abns, LevelsAreTrimmedBeforeTheyAreCut)
+{
+    Abns scheme;
+    scheme.addLevel("  ABCDE ", "   a name of 25 letters, cut here", 65537, 4294967298);
+    EXPECT_STREQ("ABCD", scheme.abrAt(0));
+    EXPECT_STREQ("a name of 25 letters, cut", scheme.nameAt(0));
+    EXPECT_EQ(1, scheme.minAt(0)) << "of 16 bits";
+    EXPECT_EQ(2, scheme.outputAt(0)) << "of 32 bits";
+    scheme.addLevel("B", "", 65537, 0);
+    EXPECT_EQ(1, scheme.outputAt(1));
+}
+
+TEST(Abns, AThirteenthLevelIsRefused)
+{
+    Abns scheme;
+    for (int i = 0; i < 12; ++i)
+        scheme.addLevel("L", "Level", i, 0);
+    testing::internal::CaptureStderr();
+    scheme.addLevel("X", "Thirteenth", 12, 0);
+    EXPECT_EQ(
+        "\nMaximum number of abundance levels reached ", testing::internal::GetCapturedStderr());
+    EXPECT_EQ(12, scheme.levelCount());
+    EXPECT_STREQ("L", scheme.abrAt(11));
+}
+
+TEST(Abntrans, GivesTheFirstOfItsKey)
+{
+    Abntrans table;
+    table.add("rare", 'a', 'b', "text", 'c');
+    table.add("rare", 'x', 'x', "other", 'x');
+    table.add("a key of more than twenty-nine letters", 'd', 'e', nullptr, 'f');
+    char c1 = '1', c2 = '2', c3 = '3';
+    char text[30] = "before";
+    const auto found = [&] { return std::string{c1, c2, c3} + text; };
+    EXPECT_EQ(0, table.find("Rare", &c1, &c2, text, &c3));
+    EXPECT_EQ(0, table.find("a key of more than twenty-nine letters", &c1, &c2, text, &c3));
+    EXPECT_EQ("123before", found());
+    EXPECT_EQ(1, table.find("rare", &c1, &c2, text, &c3));
+    EXPECT_EQ("abctext", found());
+    EXPECT_EQ(1, table.find("a key of more than twenty-nin", &c1, &c2, text, &c3));
+    EXPECT_EQ("def", found());
+    for (int i = 3; i < 101; ++i)
+        table.add(i < 100 ? "filler" : "beyond", 'x', 'x', "", 'x');
+    EXPECT_EQ(100, table.count());
+    EXPECT_EQ(0, table.find("beyond", &c1, &c2, text, &c3));
+}
+
+class Schemes : public testing::Test {
+protected:
+    Schemes()
+    {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        db.run("INSERT INTO ABNSCHME VALUES (7, 'Seven'), (8, 'eight'), (9, 'Empty')");
+        db.run("INSERT INTO ABNSCHMBR (scheme_id, entry_no, entry_name, abr, min, output_val)"
+               " VALUES (7, 2, '  Rare', ' R', 1, 0), (7, 1, 'Present', 'P', NULL, 4),"
+               " (7, 3, NULL, NULL, 65541, 60)");
+        for (int i = 1; i <= 13; ++i)
+            db.run("INSERT INTO ABNSCHMBR VALUES (8, " + std::to_string(i) + ", 'n', 'L', 1, 0)");
+    }
+
+    TestDatabase db;
+    MessageLog screen;
+};
+
+std::string table(const std::string& name) { return testSettings().prefix + name; }
+
+const std::string kById = "SELECT name FROM " + table("ABNSCHME") + " WHERE scheme_id=";
+const std::string kLevels =
+    "SELECT entry_name, abr, min, output_val FROM " + table("ABNSCHMBR") + " WHERE scheme_id=";
+
+std::string textOf(const Abns& scheme)
+{
+    std::string text = std::to_string(scheme.scheme_id) + " " + scheme.name.str() + ":";
+    for (int i = 0; i < scheme.levelCount(); ++i)
+        text += std::string(" ") + scheme.abrAt(i) + "," + scheme.nameAt(i) + ","
+            + std::to_string(scheme.minAt(i)) + "," + std::to_string(scheme.outputAt(i));
+    return text;
+}
+
+const std::string kSeven = "7 Seven: P,Present,0,4 R,Rare,1,0 ,,5,60";
+
+TEST_F(Schemes, LoadWithTheirLevelsInOrder)
+{
+    const StatementLog log;
+    Abns scheme;
+    scheme.loadByName("Seven");
+    EXPECT_EQ(kSeven, textOf(scheme));
+    scheme.loadById(8);
+    EXPECT_EQ("eight", scheme.name);
+    EXPECT_EQ(12, scheme.levelCount());
+    scheme.loadById(7);
+    EXPECT_EQ(kSeven, textOf(scheme));
+    scheme.loadByName("seven or so");
+    EXPECT_EQ("0" + kSeven.substr(1), textOf(scheme)) << "all else stays";
+    scheme.loadById(7);
+    scheme.loadById(99);
+    EXPECT_EQ("0" + kSeven.substr(1), textOf(scheme));
+    scheme.loadById(9);
+    EXPECT_EQ("9 Empty:", textOf(scheme));
+    EXPECT_EQ((Texts{"SELECT scheme_id FROM " + table("ABNSCHME") + " WHERE name='Seven'",
+                  kLevels + "7 ORDER BY entry_no", kById + "8", kLevels + "8 ORDER BY entry_no"}),
+        (Texts{log.statements().begin(), log.statements().begin() + 4}));
+    EXPECT_EQ(1, dbExecute("SELECT 1")) << "no cursor is left";
+}
+
+TEST_F(Schemes, AreSharedThroughTheRegistry)
+{
+    // The registry lives as long as the process, so its schemes have identifiers of their own.
+    db.run("UPDATE ABNSCHME SET scheme_id = 70 WHERE scheme_id = 7");
+    db.run("UPDATE ABNSCHMBR SET scheme_id = 70 WHERE scheme_id = 7");
+    const StatementLog log;
+    Abns* scheme = schemeById(70);
+    EXPECT_EQ("70" + kSeven.substr(1), textOf(*scheme));
+    EXPECT_EQ(scheme, schemeById(70));
+    EXPECT_THAT(log.statements(), SizeIs(2));
+    Abns* unknown = schemeById(-70);
+    EXPECT_EQ("0 :", textOf(*unknown));
+    EXPECT_NE(unknown, schemeById(-70)) << "its identifier is 0";
+    EXPECT_EQ(unknown, schemeById(0));
+}
+
+TEST_F(Schemes, CachesReadAgainWhenAnotherSchemeIsAskedFor)
+{
+    cachedAbrForCount(1, 9);
+    cachedValueForAbr("P", 9);
+    const StatementLog log;
+    EXPECT_STREQ("R", cachedAbrForCount(3, 7));
+    db.run("UPDATE ABNSCHMBR SET abr = 'Z' WHERE scheme_id = 7");
+    EXPECT_STREQ("R", cachedAbrForCount(4, 7));
+    EXPECT_THAT(log.statements(), ElementsAre(kById + "7", kLevels + "7 ORDER BY entry_no"));
+    EXPECT_EQ(60, cachedValueForAbr("Z", 7)) << "a cache of its own";
+    EXPECT_STREQ("L", cachedAbrForCount(4, 8));
+    EXPECT_STREQ("Z", cachedAbrForCount(4, 7));
+}
+
+TEST_F(Schemes, AllInOrderOfTheirNames)
+{
+    const StatementLog log;
+    const std::unique_ptr<ItemList> all(allSchemes());
+    Texts names;
+    for (const Item* item : *all)
+        names.push_back(std::to_string(item->id) + " " + item->text.str());
+    EXPECT_EQ((Texts{"9 Empty", "7 Seven", "8 eight"}), names) << "by bytes";
+    EXPECT_THAT(log.statements(),
+        ElementsAre("SELECT scheme_id, name FROM " + table("ABNSCHME") + " ORDER BY name"));
+}
+
+struct FaultCase {
+    const char* name;
+    std::function<std::string()> run;
+    /// The statement and the result when it does not run, in order of the statements; the results
+    /// when each row is not fetched.
+    std::vector<std::pair<std::string, std::string>> statements;
+    Texts unfetched;
+};
+void PrintTo(const FaultCase& c, std::ostream* out) { *out << c.name; }
+
+std::string loaded(void (*load)(Abns&))
+{
+    Abns scheme;
+    load(scheme);
+    return textOf(scheme);
+}
+
+const Texts kSevenCut = {
+    "0 :", "7 Seven:", "7 Seven: P,Present,0,4", "7 Seven: P,Present,0,4 R,Rare,1,0", kSeven};
+
+const FaultCase kFaults[] = {
+    {"loadByName", [] { return loaded([](Abns& s) { s.loadByName("Seven"); }); },
+        {{"SELECT scheme_id FROM", "0 :"}, {"SELECT entry_name", "7 Seven:"}}, kSevenCut},
+    {"loadById", [] { return loaded([](Abns& s) { s.loadById(7); }); },
+        {{"SELECT name FROM", "0 :"}, {"SELECT entry_name", "7 Seven:"}}, kSevenCut},
+    {"allSchemes",
+        [] {
+            const std::unique_ptr<ItemList> all(allSchemes());
+            return std::to_string(all->count);
+        },
+        {{"SELECT scheme_id, name", "0"}}, {"0", "1", "2", "3"}},
+};
+
+class SchemeFaults : public Schemes, public testing::WithParamInterface<FaultCase> {
+protected:
+    void expectAfter(int n, const char* call, const std::string& text, const std::string& result)
+    {
+        const DriverFault fault(n, call, DriverFault::Once, "HY000", text);
+        EXPECT_EQ(result, GetParam().run()) << call << n;
+        EXPECT_TRUE(fault.fired()) << call << n;
+        EXPECT_EQ(0, fatalError);
+        const short free = dbExecute("SELECT 1");
+        EXPECT_EQ(1, free) << call << n;
+        dbCloseCursor(free);
+    }
+};
+
+TEST_P(SchemeFaults, EachDriverCallFailing)
+{
+    int n = 0;
+    for (const auto& [statement, result] : GetParam().statements) {
+        ++n;
+        for (const char* call : {"SQLSetStmtAttr", "SQLExecDirect"}) {
+            screen.clear();
+            expectAfter(n, call, "ORA-03113: lost", result); // restored, so it goes on
+            EXPECT_THAT(screen.texts(),
+                ElementsAre(StartsWith("Error in: " + statement), HasSubstr("ORA-03113: lost"),
+                    StartsWith("Press OK")));
+        }
+    }
+    screen.clear();
+    n = 0;
+    for (const std::string& result : GetParam().unfetched)
+        expectAfter(++n, "SQLFetch", "not fetched", result);
+    EXPECT_THAT(screen.texts(), IsEmpty());
+    screen.echo();
+    const DriverFault fault(n = 1, "SQLExecDirect");
+    EXPECT_EXIT(GetParam().run(), testing::ExitedWithCode(1),
+        "^box: Error in: " + GetParam().statements[0].first + "[^\n]*\nbox: [^\n]*injected fault");
+}
+INSTANTIATE_TEST_SUITE_P(Loaders, SchemeFaults, testing::ValuesIn(kFaults));
+
+} // namespace
