@@ -206,9 +206,11 @@ TEST_F(Schemes, LoadWithTheirLevelsInOrder)
     EXPECT_EQ("0" + kSeven.substr(1), textOf(scheme));
     scheme.loadById(9);
     EXPECT_EQ("9 Empty:", textOf(scheme));
-    EXPECT_EQ((Texts{"SELECT scheme_id FROM " + table("ABNSCHME") + " WHERE name='Seven'",
-                  kLevels + "7 ORDER BY entry_no", kById + "8", kLevels + "8 ORDER BY entry_no"}),
-        (Texts{log.statements().begin(), log.statements().begin() + 4}));
+    Texts statements = log.statements();
+    statements.resize(4);
+    EXPECT_THAT(statements,
+        ElementsAre("SELECT scheme_id FROM " + table("ABNSCHME") + " WHERE name='Seven'",
+            kLevels + "7 ORDER BY entry_no", kById + "8", kLevels + "8 ORDER BY entry_no"));
     EXPECT_EQ(1, dbExecute("SELECT 1")) << "no cursor is left";
 }
 
