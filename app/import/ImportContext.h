@@ -1,7 +1,9 @@
 // app/import/ImportContext.h
 #pragma once
 
+#include "app/import/Dictionary.h"
 #include "app/import/InputFile.h"
+#include "store/AbundanceWriter.h"
 #include "store/WellWriter.h"
 
 #include <map>
@@ -40,12 +42,18 @@ class ImportContext {
 public:
     explicit ImportContext(Writing mode)
         : writing(mode)
+        , dictionary(mode)
+        , abundances(mode)
         , stored_(Writing::Check)
     {
     }
 
     const Writing writing;
     ImportPhase phase = ImportPhase::Checking;
+
+    Dictionary dictionary;
+    AbundanceWriter abundances;
+    Numbered<AbundanceScheme> numberedSchemes;
 
     /// What the database has of a well code; false: `error`.
     bool storedWell(const std::string& code, StoredWell* out);

@@ -25,7 +25,7 @@ struct InputFile {
     std::string name; ///< as reports call it
     std::string set;  ///< files of one set share the numbers that they give their rows
     const FileShape* shape = nullptr;  ///< null once the file is left
-    bool namedExactly = false;         ///< "wells.csv", not "north_wells.csv"
+    bool namedExactly = false;         ///< "wells.csv", not "north_wells.csv", and no other kind's
     std::vector<MappedColumn> columns; ///< by `ColumnShape::column`
     std::size_t fields = 0;            ///< that every row must have
 

@@ -84,7 +84,7 @@ private:
         input.path = file;
         input.set = real.parent_path().string();
         input.shape = shape;
-        input.namedExactly = stem == shape->name;
+        input.namedExactly = stem == shape->name && !shape->sharesName;
         sets_.insert(input.set);
         found_.files.push_back(std::move(input));
     }

@@ -33,3 +33,9 @@ protected:
 
 std::unique_ptr<RowLoader> makeWellsLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeSamplesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeCategoriesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeTaxaLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeSynonymyLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeNameVariantsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeSchemesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeLevelsLoader(ImportContext& context);

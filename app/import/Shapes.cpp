@@ -48,6 +48,74 @@ constexpr ColumnShape kSamples[] = {
 };
 static_assert(std::size(kSamples) == samples::Count);
 
+constexpr ColumnShape kCategories[] = {
+    {categories::Mnemonic, "cat_mnem category mnemonic", CellKind::Key, Refuses, true, 5},
+    {categories::Discipline, "disc_id discipline", CellKind::Text, LeftOut},
+    {categories::Name, "cat_name group_name name", CellKind::Text, LeftOut, false, 53},
+};
+static_assert(std::size(kCategories) == categories::Count);
+
+// Names are fitted into their slots as wholes, so their pieces may have any length. A name longer
+// than the notes keep would be lost where it does not fit.
+constexpr ColumnShape kTaxa[] = {
+    {taxa::Id, "spec_id taxon_id", CellKind::Id, Refuses},
+    {taxa::Category, "cat_mnem category", CellKind::Text, Refuses},
+    {taxa::Group, "taxon_group group", CellKind::Text, Refuses},
+    {taxa::Discipline, "disc_id discipline", CellKind::Text, LeftOut},
+    {taxa::Name, "name taxon_name taxon", CellKind::Text, LeftOut, false, 226},
+    {taxa::AboveGenus, "above_genus", CellKind::Text, LeftOut},
+    {taxa::GenusMark, "genus_qualifier genus_modifier", CellKind::Text, LeftOut},
+    {taxa::Genus, "genus", CellKind::Text, LeftOut},
+    {taxa::Subgenus, "sub_genus subgenus", CellKind::Text, LeftOut},
+    {taxa::SpeciesMark, "species_qualifier species_modifier", CellKind::Text, LeftOut},
+    {taxa::Species, "species", CellKind::Text, LeftOut},
+    {taxa::SubspeciesMark, "subspecies_qualifier subspecies_modifier", CellKind::Text, LeftOut},
+    {taxa::Subspecies, "sub_spec subspecies", CellKind::Text, LeftOut},
+    {taxa::Rest, "rest descriptor", CellKind::Text, LeftOut},
+    {taxa::Author, "author", CellKind::Text, LeftOut, false, 79},
+    {taxa::Year, "year", CellKind::Whole, LeftOut},
+    {taxa::AlphaCode, "alphacode alpha_code source_code", CellKind::Text, LeftOut, false, 255},
+    {taxa::Code, "sipm_code code", CellKind::Whole, LeftOut},
+    {taxa::Notes, "notes", CellKind::Text, LeftOut, false, 240},
+};
+static_assert(std::size(kTaxa) == taxa::Count);
+
+constexpr ColumnShape kSynonymy[] = {
+    {synonymy::Name, "name synonym", CellKind::Text, Refuses, true, 226},
+    {synonymy::Preferred, "preferred_name accepted_name name_to_use", CellKind::Text, Refuses, true,
+        226},
+    {synonymy::PreferredId, "preferred_id", CellKind::Id, Refuses},
+    {synonymy::Category, "cat_mnem category taxon_group", CellKind::Text, Refuses},
+    {synonymy::Scheme, "scheme synonymy_scheme", CellKind::Text, Refuses, false, 49},
+};
+constexpr ColumnShape kNameVariants[] = {
+    {synonymy::Name, "verbatim_name variant name", CellKind::Text, Refuses, true, 226},
+    {synonymy::Preferred, "name_to_use preferred_name", CellKind::Text, Refuses, false, 226},
+    {synonymy::PreferredId, "spec_id taxon_id", CellKind::Id, Refuses},
+    {synonymy::Category, "cat_mnem category taxon_group", CellKind::Text, Refuses},
+    {synonymy::Scheme, "scheme synonymy_scheme", CellKind::Text, Refuses, false, 49},
+};
+static_assert(std::size(kSynonymy) == synonymy::Count);
+static_assert(std::size(kNameVariants) == synonymy::Count);
+
+constexpr ColumnShape kSchemes[] = {
+    {schemes::Id, "scheme_id", CellKind::Id, Refuses, true},
+    {schemes::Name, "name", CellKind::Key, Refuses, true, 25},
+};
+static_assert(std::size(kSchemes) == schemes::Count);
+
+constexpr ColumnShape kLevels[] = {
+    {levels::SchemeId, "scheme_id", CellKind::Id, Refuses},
+    {levels::Scheme, "scheme scheme_name", CellKind::Text, Refuses, false, 25},
+    {levels::EntryNo, "entry_no", CellKind::Whole, Refuses},
+    {levels::Name, "entry_name level name", CellKind::Text, LeftOut, false, 25},
+    {levels::Abr, "abr code", CellKind::Text, Refuses, true, 4},
+    {levels::Min, "min", CellKind::Number, Refuses},
+    {levels::MinExclusive, "min_exclusive", CellKind::Text, LeftOut},
+    {levels::Output, "output_val output", CellKind::Whole, LeftOut},
+};
+static_assert(std::size(kLevels) == levels::Count);
+
 template <std::size_t N> constexpr bool inOrder(const ColumnShape (&columns)[N])
 {
     for (std::size_t i = 0; i < N; ++i)
@@ -56,10 +124,18 @@ template <std::size_t N> constexpr bool inOrder(const ColumnShape (&columns)[N])
     return true;
 }
 static_assert(inOrder(kWells) && inOrder(kSamples));
+static_assert(inOrder(kCategories) && inOrder(kTaxa) && inOrder(kSynonymy));
+static_assert(inOrder(kNameVariants) && inOrder(kSchemes) && inOrder(kLevels));
 
 constexpr FileShape kShapes[] = {
     {"wells", kWells, makeWellsLoader},
     {"samples", kSamples, makeSamplesLoader},
+    {"categories", kCategories, makeCategoriesLoader},
+    {"taxa", kTaxa, makeTaxaLoader},
+    {"synonymy", kSynonymy, makeSynonymyLoader},
+    {"name_variants", kNameVariants, makeNameVariantsLoader},
+    {"schemes", kSchemes, makeSchemesLoader, true},
+    {"levels", kLevels, makeLevelsLoader, true},
 };
 
 bool isNameBreak(char c) { return c == '-' || c == '_' || c == '.' || c == ' '; }

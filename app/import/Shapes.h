@@ -40,6 +40,8 @@ struct FileShape {
     std::string_view name; ///< of the file, without ".csv"
     std::span<const ColumnShape> columns;
     std::unique_ptr<RowLoader> (*makeLoader)(ImportContext&);
+    /// Files of other kinds have this name too: one without the required columns is left.
+    bool sharesName = false;
 };
 
 /// In the order in which they have to be stored: each behind those whose rows it refers to.
@@ -79,4 +81,47 @@ enum {
 
 namespace samples {
 enum { WellCode, Id, Top, Base, Type, Label, Units, GridX, GridY, Count };
+}
+
+namespace categories {
+enum { Mnemonic, Discipline, Name, Count };
+}
+
+namespace taxa {
+enum {
+    Id,
+    Category,
+    Group,
+    Discipline,
+    Name,
+    AboveGenus,
+    GenusMark,
+    Genus,
+    Subgenus,
+    SpeciesMark,
+    Species,
+    SubspeciesMark,
+    Subspecies,
+    Rest,
+    Author,
+    Year,
+    AlphaCode,
+    Code,
+    Notes,
+    Count
+};
+}
+
+/// Of synonymy and of name variants.
+namespace synonymy {
+enum { Name, Preferred, PreferredId, Category, Scheme, Count };
+}
+
+/// Abundance schemes.
+namespace schemes {
+enum { Id, Name, Count };
+}
+
+namespace levels {
+enum { SchemeId, Scheme, EntryNo, Name, Abr, Min, MinExclusive, Output, Count };
 }

@@ -203,25 +203,26 @@ bool isExact(const Taxon& taxon, std::string_view written)
         || withoutBlanks(composedName(taxon, true)) == wanted;
 }
 
-/// What no parting fits into the slots the sentence reader of Taxon lets run on into the author.
-Taxon fittedTaxon(Draft draft, short year, std::string_view written)
+/// Parts species and subspecies anew where one of them is too long. False when that cannot help.
+bool makeFit(Draft& draft)
 {
     std::string& species = draft[slot::species];
     std::string& subspecies = draft[slot::subspecies];
+    if (species.size() <= kLongestPart && subspecies.size() <= kLongestPart)
+        return true;
     const bool apart = !draft[slot::postSpecies].empty() || !draft[slot::preSubspecies].empty();
-    if (species.size() > kLongestPart || subspecies.size() > kLongestPart)
-        if (!apart)
-            fit(species, subspecies);
-    const bool overflows = species.size() > kLongestPart || subspecies.size() > kLongestPart;
-    return overflows ? Taxon(std::string(written).c_str(), 0) : taxonOf(draft, year);
+    return !apart && fit(species, subspecies);
 }
 
 NameReading reading(const NameParts& parts, bool genusMarkBehind, std::string_view written)
 {
     NameReading result;
-    result.taxon = fittedTaxon(DraftReader(genusMarkBehind).read(parts), parts.year, written);
+    Draft draft = DraftReader(genusMarkBehind).read(parts);
+    const bool fits = makeFit(draft);
+    // The sentence reader lets what has no room in the name run on into the author.
+    result.taxon = fits ? taxonOf(draft, parts.year) : Taxon(std::string(written).c_str(), 0);
     result.fault = result.taxon.checkQualifiers();
-    result.exact = isExact(result.taxon, written);
+    result.exact = fits && isExact(result.taxon, written);
     return result;
 }
 
@@ -244,7 +245,8 @@ NameReading storedName(std::string_view written, const NameParts& parts)
     if (isGood(markBehind))
         return markBehind;
     NameReading whole = written.empty() ? first : readName(written);
-    if (isGood(whole))
+    // Pieces without a species have left it to the rest of the name.
+    if (isGood(whole) || (whole.fault == 0 && parts.species.empty()))
         return whole;
     if (first.fault != 0) {
         first.taxon = taxonOf(verbatim(name), parts.year);
