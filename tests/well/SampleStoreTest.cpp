@@ -100,6 +100,7 @@ TEST_F(LoadSamples, ReadsTheListOnceInDepthOrder)
 TEST_F(LoadSamples, AgainTakesOverWhatChanged)
 {
     loaded(0);
+    const std::string before = std::string(kOne) + "3|35|35|SC|0|0|||||x|0|2|0|40|LOG|0|0||||||0|";
     const struct {
         const char* name;
         const char* change;
@@ -118,10 +119,12 @@ TEST_F(LoadSamples, AgainTakesOverWhatChanged)
         {"a new one among them",
             "INSERT INTO SAMPLES (samp_id, well_id, top_depth, type) VALUES (3, 7, 35, 'OC')",
             std::string(kOne) + "3|35|35|OC|0|0||||||1|2|0|40|LOG|0|0||||||0|"},
-        {"type and label", "UPDATE SAMPLES SET type='sc ', label='x' WHERE samp_id=3",
-            std::string(kOne) + "3|35|35|SC|0|0|||||x|0|2|0|40|LOG|0|0||||||0|"},
-        {"gone rows stay", "DELETE FROM SAMPLES",
-            std::string(kOne) + "3|35|35|SC|0|0|||||x|0|2|0|40|LOG|0|0||||||0|"},
+        {"type and label", "UPDATE SAMPLES SET type='sc ', label='x' WHERE samp_id=3", before},
+        {"one without a depth", "INSERT INTO SAMPLES (samp_id, well_id) VALUES (4, 7)",
+            "4|0|0|CU|0|0||||||1|" + before},
+        {"gets a top", "UPDATE SAMPLES SET top_depth=50 WHERE samp_id=4",
+            before + "4|50|0|CU|0|0||||||0|"},
+        {"gone rows stay", "DELETE FROM SAMPLES", before + "4|50|0|CU|0|0||||||0|"},
     };
     for (const auto& c : kCases) {
         db.run(c.change);
