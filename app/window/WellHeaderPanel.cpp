@@ -80,9 +80,7 @@ WellHeaderPanel::WellHeaderPanel(QWidget* parent)
 
 void WellHeaderPanel::showWell(const Well* well, char units)
 {
-    fields_.clear();
-    if (well)
-        fields_ = headerFields(*well, units);
+    fields_ = well ? headerFields(*well, units) : std::vector<HeaderField>();
     for (std::size_t i = 0; i < fields_.size(); ++i)
         values_[i]->setText(fields_[i].value);
     if (well) {

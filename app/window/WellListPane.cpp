@@ -114,11 +114,8 @@ void WellListPane::choose(const QModelIndex& row)
 {
     if (marking_ || !row.isValid())
         return;
-    const long well = row.data(WellListModel::WellIdRole).value<long>();
-    if (well == chosen_)
-        return;
-    chosen_ = well;
-    emit wellChosen(well);
+    chosen_ = row.data(WellListModel::WellIdRole).value<long>();
+    emit wellChosen(chosen_);
 }
 
 void WellListPane::markChosen()

@@ -39,11 +39,15 @@ TEST_F(MainWindowTest, IsCalledAfterItsDatabase)
 {
     EXPECT_EQ(desk.openEmpty().windowTitle(), "Zonaris");
     EXPECT_EQ(desk.openConnected().windowTitle().toStdString(), fileName() + " – Zonaris");
+    EXPECT_EQ(desk.openConnected("DSN=wells;PWD=x").windowTitle().toStdString(),
+        "DSN=wells;PWD=*** – Zonaris");
 }
 
-TEST_F(MainWindowTest, OpensAnotherDatabaseInAnotherProcess)
+class ConnectedWindow : public MainWindowTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(ConnectedWindow, OpensAnotherDatabaseInAnotherProcess)
 {
-    desk.openConnected();
+    desk.openConnected(GetParam());
     desk.picked = "/data/a b.zdb";
     desk.act("Open database...");
     const std::string kind = std::to_string(testSettings().kind);
@@ -54,6 +58,8 @@ TEST_F(MainWindowTest, OpensAnotherDatabaseInAnotherProcess)
     EXPECT_THAT(desk.messages.texts(), IsEmpty());
     EXPECT_EQ(desk.wells().model()->rowCount(), 2) << "this one stays";
 }
+
+INSTANTIATE_TEST_SUITE_P(ByFileAndByString, ConnectedWindow, testing::Values("", "DSN=wells"));
 
 TEST_F(MainWindowTest, ReportsAProcessThatDoesNotStart)
 {
@@ -97,6 +103,10 @@ TEST_F(MainWindowTest, SaysHowToFillADatabaseWithoutWells)
     desk.act("Read again");
     EXPECT_FALSE(desk.find<QLabel>("startState").isVisible());
     EXPECT_EQ(desk.samples().model()->rowCount(), 2);
+    desk.db.run("DELETE FROM WELL_IDENT");
+    desk.act("Read again");
+    EXPECT_EQ(desk.samples().model()->rowCount(), 0);
+    EXPECT_EQ(desk.find<QWidget>("wellHeader").accessibleDescription(), "");
 }
 
 TEST_F(MainWindowTest, CopiesTheSelectedCellsWithTheirHeadings)

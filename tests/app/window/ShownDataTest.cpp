@@ -8,6 +8,7 @@
 #include <QAbstractItemModelTester>
 #include <QComboBox>
 #include <QLabel>
+#include <QSignalSpy>
 
 #include <cstdio>
 #include <ostream>
@@ -257,7 +258,12 @@ TEST_F(ShownData, TheUnitsStayWhenTheWellChanges)
     desk.openConnected();
     QAbstractItemModelTester tester(
         desk.samples().model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QSignalSpy headings(desk.samples().model(), &QAbstractItemModel::headerDataChanged);
+    const QSignalSpy cells(desk.samples().model(), &QAbstractItemModel::dataChanged);
+    desk.choose("M1");
     desk.act("Depths in metres");
+    EXPECT_EQ(headings.count(), 1) << "the view keeps the old ones otherwise";
+    EXPECT_EQ(cells.count(), 1);
     EXPECT_EQ(desk.find<QComboBox>("depthUnits").currentText(), "metres");
     desk.choose("F2");
     EXPECT_EQ(samples().front().substr(0, 8), "1524.00|");

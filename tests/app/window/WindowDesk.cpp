@@ -7,10 +7,12 @@
 
 #include <QAction>
 
-MainWindow& WindowDesk::openConnected()
+MainWindow& WindowDesk::openConnected(const std::string& connectString)
 {
     ConnectionSettings connected = settings();
-    connected.databaseFile = db.file();
+    connected.connectString = connectString;
+    if (connectString.empty())
+        connected.databaseFile = db.file();
     window = std::make_unique<MainWindow>(connected, services());
     window->showDatabase();
     return *window;

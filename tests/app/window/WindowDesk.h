@@ -12,8 +12,9 @@
 /// A main window with a user and a desktop around it, on a database of its own.
 class WindowDesk {
 public:
-    /// The window on the database that the session is connected with.
-    MainWindow& openConnected();
+    /// The window on the database that the session is connected with, which settings name by its
+    /// file or as `connectString`.
+    MainWindow& openConnected(const std::string& connectString = {});
     /// The window without a database; the session is disconnected.
     MainWindow& openEmpty();
 
