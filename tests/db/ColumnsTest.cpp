@@ -3,129 +3,88 @@
 #include "db/Session.h"
 #include "tests/db/Kind.h"
 
-#include <functional>
-#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
 
 namespace {
 
-struct TextCase {
-    const char* name;
-    std::string stored;
-    std::string read;
+class Columns : public testing::Test {
+protected:
+    TestDatabase database{TestDatabase::Empty};
 };
-void PrintTo(const TextCase& c, std::ostream* out) { *out << c.name; }
 
 std::string xs(std::size_t n) { return std::string(n, 'x'); }
 
-const TextCase kTexts[] = {
-    {"plain", "Globigerina", "Globigerina"},
-    {"blanks behind", "abc   ", "abc"},
-    {"white space and control characters behind", "abc\t\r\n\x01 ", "abc"},
-    {"blanks before stay", "  abc", "  abc"},
-    {"nothing but blanks", "   ", ""},
-    {"1022 bytes", xs(1022), xs(1022)},
-    {"1023 bytes", xs(1023), xs(1023)},
-    {"1024 bytes", xs(1024), xs(1023)},
-    {"a character that ends on the limit", xs(1021) + "\u00F8", xs(1021) + "\u00F8"},
-    {"the same and more", xs(1021) + "\u00F8y", xs(1021) + "\u00F8"},
-    {"a character across the limit", xs(1022) + "\u00F8", xs(1022)},
-    {"one of four bytes across it", xs(1020) + "\U0001F41A", xs(1020)},
-    {"blanks before the cut", xs(1000) + std::string(100, ' ') + "y", xs(1000)},
-    {"many times the limit", xs(5000), xs(1023)},
-};
-
-class Texts : public testing::TestWithParam<TextCase> {
-protected:
-    Texts()
-    {
-        database.run("CREATE TABLE NO_SUCH_SCRATCH (a TEXT)");
-        database.run("INSERT INTO NO_SUCH_SCRATCH VALUES ('" + GetParam().stored + "')");
+TEST_F(Columns, Texts)
+{
+    const struct {
+        const char* rule;
+        std::string stored, read;
+        bool cut = false; // what `Cursor` reads whole
+    } rows[] = {
+        {"plain", "Globigerina", "Globigerina"},
+        {"blanks behind", "abc   ", "abc"},
+        {"white space and control characters behind", "abc\t\r\n\x01 ", "abc"},
+        {"blanks before stay", "  abc", "  abc"},
+        {"nothing but blanks", "   ", ""},
+        {"1022 bytes", xs(1022), xs(1022)},
+        {"1023 bytes", xs(1023), xs(1023)},
+        {"1024 bytes", xs(1024), xs(1023), true},
+        {"a character that ends on the limit", xs(1021) + "\u00F8", xs(1021) + "\u00F8"},
+        {"the same and more", xs(1021) + "\u00F8y", xs(1021) + "\u00F8", true},
+        {"a character across the limit", xs(1022) + "\u00F8", xs(1022), true},
+        {"one of four bytes across it", xs(1020) + "\U0001F41A", xs(1020), true},
+        {"blanks before the cut", xs(1000) + std::string(100, ' ') + "y", xs(1000), true},
+        {"many times the limit", xs(5000), xs(1023), true},
+    };
+    for (const auto& row : rows) {
+        const std::string select = "SELECT '" + row.stored + "'";
+        Cursor cutting(select);
+        ASSERT_TRUE(cutting.next());
+        EXPECT_EQ(row.read, dbGetString(cutting.number(), 1)) << row.rule;
+        Cursor whole(select);
+        ASSERT_TRUE(whole.next());
+        EXPECT_EQ(row.cut ? row.stored : row.read, whole.text(1)) << row.rule;
     }
-    TestDatabase database{TestDatabase::Empty};
-};
-
-TEST_P(Texts, dbGetString)
-{
-    const short cursor = dbExecute("SELECT a FROM " + scratch());
-    ASSERT_EQ(0, dbFetch(cursor));
-    EXPECT_EQ(GetParam().read, dbGetString(cursor, 1));
-    dbCloseCursor(cursor);
 }
 
-TEST_P(Texts, WholeByCursor)
+TEST_F(Columns, ByEachReader)
 {
-    Cursor rows("SELECT a FROM " + scratch());
-    ASSERT_TRUE(rows.next());
-    const std::string whole = rows.text(1);
-    const bool cut = GetParam().stored.size() > 1023;
-    EXPECT_EQ(cut ? GetParam().stored : GetParam().read, whole);
-}
-INSTANTIATE_TEST_SUITE_P(Stored, Texts, testing::ValuesIn(kTexts));
-
-struct ColumnCase {
-    const char* name;
-    const char* expression;
-    long integer;
-    double number;
-    const char* text;
-    char letter;
-};
-void PrintTo(const ColumnCase& c, std::ostream* out) { *out << c.name; }
-
-const ColumnCase kColumns[] = {
-    {"NULL", "NULL", 0, 0.0, "", '\0'},
-    {"empty text", "''", 0, 0.0, "", '\0'},
-    {"integer", "42", 42, 42.0, "42", '4'},
-    {"negative", "-7", -7, -7.0, "-7", '-'},
-    {"largest identifier", "2147483647", 2147483647, 2147483647.0, "2147483647", '2'},
-    {"number", "2.75", 2, 2.75, "2.75", '2'},
-    {"a blank is a letter", "' x'", 0, 0.0, " x", ' '},
-};
-
-class Column : public testing::TestWithParam<ColumnCase> {
-protected:
-    // Each reader gets a row of its own: a column is read once.
-    template <typename Read> auto read(Read reader)
-    {
-        Cursor rows(std::string("SELECT ") + GetParam().expression);
-        EXPECT_TRUE(rows.next());
-        return reader(rows.number());
+    const struct {
+        const char* expression;
+        long integer;
+        double number;
+        const char* text;
+        char letter;
+    } rows[] = {
+        {"NULL", 0, 0.0, "", '\0'},
+        {"''", 0, 0.0, "", '\0'},
+        {"42", 42, 42.0, "42", '4'},
+        {"-7", -7, -7.0, "-7", '-'},
+        {"2147483647", 2147483647, 2147483647.0, "2147483647", '2'},
+        {"2.75", 2, 2.75, "2.75", '2'},
+        {"' x'", 0, 0.0, " x", ' '},
+    };
+    for (const auto& row : rows) {
+        const std::string e = row.expression; // once for each reader: a column is read once
+        Cursor cursor("SELECT " + e + "," + e + "," + e + "," + e);
+        ASSERT_TRUE(cursor.next());
+        EXPECT_EQ(row.integer, dbGetLong(cursor.number(), 1)) << e;
+        EXPECT_EQ(row.number, dbGetDouble(cursor.number(), 2)) << e;
+        const char* text = dbGetString(cursor.number(), 3);
+        EXPECT_EQ(row.letter, dbGetChar(cursor.number(), 4)) << e;
+        EXPECT_STREQ(row.text, text) << "another reader has a buffer of its own";
     }
-    TestDatabase database{TestDatabase::Empty};
-};
-
-TEST_P(Column, ByEachReader)
-{
-    const ColumnCase& c = GetParam();
-    EXPECT_EQ(c.integer, read([](short n) { return dbGetLong(n, 1); }));
-    EXPECT_EQ(c.number, read([](short n) { return dbGetDouble(n, 1); }));
-    EXPECT_EQ(c.text, read([](short n) { return std::string(dbGetString(n, 1)); }));
-    EXPECT_EQ(c.letter, read([](short n) { return dbGetChar(n, 1); }));
 }
-INSTANTIATE_TEST_SUITE_P(Values, Column, testing::ValuesIn(kColumns));
 
-TEST(Columns, OneThatIsNotThereReadsAsNothing)
+TEST_F(Columns, OneThatIsNotThereReadsAsNothing)
 {
-    const TestDatabase database(TestDatabase::Empty);
     Cursor rows("SELECT 5");
     ASSERT_TRUE(rows.next());
     EXPECT_EQ(0, rows.integer(2));
     EXPECT_EQ("", rows.text(2));
     EXPECT_EQ('\0', rows.letter(0));
-}
-
-TEST(Columns, ResultsOfTheReadersStandTogether)
-{
-    const TestDatabase database(TestDatabase::Empty);
-    const short cursor = dbExecute("SELECT 'first', 'second'");
-    ASSERT_EQ(0, dbFetch(cursor));
-    const char* text = dbGetString(cursor, 1);
-    EXPECT_EQ('s', dbGetChar(cursor, 2));
-    EXPECT_STREQ("first", text) << "another reader's buffer";
-    dbCloseCursor(cursor);
 }
 
 } // namespace

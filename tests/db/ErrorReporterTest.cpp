@@ -8,6 +8,7 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -75,24 +76,18 @@ TEST_F(ErrorReporter, ALostConnectionIsRestored)
     }
 }
 
-// What the driver says of a statement when the connection is lost under it.
-class LostStatement {
-public:
-    LostStatement()
-        : fault_(1, "SQLExecDirect", DriverFault::Once, "08S01", kLost)
-    {
-        EXPECT_EQ(0, dbExecute("SELECT 1"));
-    }
-
-private:
-    DriverFault fault_;
-};
+// As when the connection is lost under a statement.
+void loseAStatement()
+{
+    const DriverFault fault(1, "SQLExecDirect", DriverFault::Once, "08S01", kLost);
+    EXPECT_EQ(0, dbExecute("SELECT 1"));
+}
 
 TEST_F(ErrorReporter, AStatementThatLostItsConnection)
 {
     for (const Fatal fatal : {Fatal::No, Fatal::Yes}) {
         messages.clear();
-        const LostStatement lost;
+        loseAStatement();
         reportDbFailure("SELECT 1", fatal);
         EXPECT_THAT(messages.texts(), ElementsAre("SELECT 1", HasSubstr("ORA-03113"), kPrompt));
         EXPECT_EQ(0, fatalError);
@@ -112,90 +107,84 @@ TEST_F(ErrorReporter, AStatementThatFailed)
     EXPECT_EQ(0, fatalError);
 }
 
-TEST_F(ErrorReporter, OtherKindsGoOnWithoutTheServer)
+void loseTheServer()
 {
-    if (setsDateFormat())
-        GTEST_SKIP() << "this kind ends, see below";
     dbSetConnectString("Driver=/nowhere;");
     fatalError = 1;
     reportError(kLost);
+}
+
+TEST_F(ErrorReporter, WithoutADateFormatToSetALostServerEndsNothing)
+{
+    if (setsDateFormat())
+        GTEST_SKIP() << "this kind ends, see below";
+    loseTheServer();
     EXPECT_THAT(messages.texts(), ElementsAre(kLost, kPrompt));
     EXPECT_EQ(0, fatalError);
     EXPECT_EQ(0, dbExecute("SELECT 1"));
     EXPECT_STREQ("A database error has occurred.", dbErrorText());
 }
 
-// The ends of the process. Each says on the way out whether the session was closed and how often
-// the application was told to quit.
+struct End {
+    const char* name;
+    bool inThisKind;
+    void (*report)();
+    std::string boxes; // as a pattern
+};
+void PrintTo(const End& e, std::ostream* out) { *out << e.name; }
 
-const MessageLog* ending = nullptr;
+const End kEnds[] = {
+    {"fatal text", true,
+        [] {
+            fatalError = 1;
+            reportError("no way on");
+        },
+        "box: no way on\n"},
+    {"fatal statement", true,
+        [] {
+            dbExecute("SELECT NO_SUCH_COLUMN");
+            reportDbFailure("the statement", Fatal::Yes);
+        },
+        "box: the statement\nbox: .*NO_SUCH_COLUMN.*\n"},
+    {"server that stays away", setsDateFormat(), loseTheServer,
+        "box: ORA-03113.*\nbox: Press OK.*\n"},
+    {"refused date format", setsDateFormat(),
+        [] {
+            const DriverFault fault(1, "SQLExecDirect");
+            reportError(kLost);
+        },
+        "box: ORA-03113.*\nbox: Press OK.*\n"},
+};
 
-void sayHowItEnded()
+class EndOfProcess : public ErrorReporter, public testing::WithParamInterface<End> {
+protected:
+    // Says on the way out whether the session was closed and how often the application was told
+    // to quit, and leaves the application object to the exit handlers.
+    void end()
+    {
+        static const MessageLog* log = &messages;
+        new zApp(nullptr, nullptr, "", 0);
+        messages.echo();
+        std::atexit([] {
+            std::cerr << (dbConnectionHandle() ? "connected" : "disconnected") << ", quit "
+                      << log->quits() << std::endl;
+        });
+        GetParam().report();
+    }
+};
+
+TEST_P(EndOfProcess, WithStatusOne)
 {
-    std::cerr << (dbConnectionHandle() ? "connected" : "disconnected") << ", quit "
-              << ending->quits() << std::endl;
+    if (!GetParam().inThisKind)
+        GTEST_SKIP() << "this kind sets no date format";
+    EXPECT_EXIT(end(), ExitedWithCode(1), "^" + GetParam().boxes + "disconnected, quit 1\n$");
 }
+INSTANTIATE_TEST_SUITE_P(Reports, EndOfProcess, testing::ValuesIn(kEnds));
 
-template <typename Report> void endBy(MessageLog& messages, Report report)
-{
-    // Left to the exit handlers.
-    new zApp(nullptr, nullptr, "", 0);
-    messages.echo();
-    ending = &messages;
-    std::atexit(sayHowItEnded);
-    report();
-}
-
-TEST_F(ErrorReporter, AFatalTextEndsTheProcess)
-{
-    EXPECT_EXIT(endBy(messages,
-                    [] {
-                        fatalError = 1;
-                        reportError("no way on");
-                    }),
-        ExitedWithCode(1), "^box: no way on\ndisconnected, quit 1\n$");
-}
-
-TEST_F(ErrorReporter, AFatalStatementEndsTheProcess)
-{
-    dbExecute("SELECT NO_SUCH_COLUMN");
-    EXPECT_EXIT(endBy(messages,
-                    [] {
-                        dbExecute("SELECT NO_SUCH_COLUMN");
-                        reportDbFailure("the statement", Fatal::Yes);
-                    }),
-        ExitedWithCode(1), "^box: the statement\nbox: .*NO_SUCH_COLUMN.*\ndisconnected, quit 1\n$");
-}
-
-TEST_F(ErrorReporter, WithoutAnApplicationObjectItEndsAsWell)
+TEST_F(ErrorReporter, WithoutAnApplicationObjectTheProcessEndsAsWell)
 {
     fatalError = 1;
     EXPECT_EXIT(reportError("too early"), ExitedWithCode(1), "");
-}
-
-TEST_F(ErrorReporter, AServerThatStaysAwayEndsTheProcess)
-{
-    if (!setsDateFormat())
-        GTEST_SKIP() << "this kind goes on, see above";
-    EXPECT_EXIT(endBy(messages,
-                    [] {
-                        dbSetConnectString("Driver=/nowhere;");
-                        reportError(kLost);
-                    }),
-        ExitedWithCode(1),
-        std::string("^box: ") + kLost + "\nbox: Press OK .*\ndisconnected, quit 1\n$");
-}
-
-TEST_F(ErrorReporter, ARefusedDateFormatEndsTheProcess)
-{
-    if (!setsDateFormat())
-        GTEST_SKIP() << "this kind sets none";
-    EXPECT_EXIT(endBy(messages,
-                    [] {
-                        const DriverFault fault(1, "SQLExecDirect");
-                        reportError(kLost);
-                    }),
-        ExitedWithCode(1), "^box: ORA.*\nbox: Press OK .*\ndisconnected, quit 1\n$");
 }
 
 } // namespace

@@ -112,6 +112,14 @@ SQLRETURN SQLSetParam(SQLHSTMT, SQLUSMALLINT number, SQLSMALLINT cType, SQLSMALL
     return note(call + (value ? " value" : ""));
 }
 
+SQLRETURN SQLGetData(
+    SQLHSTMT, SQLUSMALLINT column, SQLSMALLINT, SQLPOINTER out, SQLLEN, SQLLEN* indicator)
+{
+    std::memcpy(out, "spoilt", 4);
+    *indicator = SQL_NULL_DATA;
+    return column % 2 ? SQL_ERROR : SQL_SUCCESS;
+}
+
 SQLRETURN SQLExecute(SQLHSTMT) { return note("SQLExecute"); }
 
 SQLRETURN SQLTables(SQLHSTMT, SQLCHAR* catalogue, SQLSMALLINT, SQLCHAR* owner, SQLSMALLINT,

@@ -6,6 +6,7 @@
 
 /// Stands in for the driver manager in the program that it is linked into: every call succeeds save
 /// the execution of the text "fail", a query has no rows, and what the calls were given is kept.
+/// Columns are NULL (an even number) or refused (an odd one), and either way the buffer is spoilt.
 struct FakeManager {
     /// The calls with what a driver sees of them, in order.
     std::vector<std::string> calls;

@@ -29,12 +29,12 @@ std::string named(const std::string& text)
 }
 
 struct Outcome {
-    std::string call;               // the driver function that failed
-    long result;                    // of the operation
-    std::vector<std::string> boxes; // shown during the operation
-    std::string errorText;          // what `dbErrorText` tells then
-    short nextCursor;               // the number that the next statement gets; 0: none can be run
-    bool commits;                   // whether a change can be made permanent after that
+    std::string call;                    // the driver function that failed
+    long result;                         // of the operation
+    std::vector<std::string> boxes = {}; // shown during the operation
+    std::string errorText = "default";   // what `dbErrorText` tells then
+    short nextCursor = 1; // the number that the next statement gets; 0: none can be run
+    bool commits = true;  // whether a change can be made permanent after that
 
     friend bool operator==(const Outcome&, const Outcome&) = default;
 };
@@ -146,168 +146,81 @@ long tableCount(TestDatabase&)
 const std::string kSelect =
     "SELECT max(7) as conval FROM " + testSettings().prefix + "NO_SUCH_SCRATCH";
 
-const std::vector<Outcome> kDirect{
-    {"SQLAllocHandle", 0, {}, "default", 1, true},
-    {"SQLSetStmtAttr", 0, {}, "injected", 1, true},
-    {"SQLExecDirect", 0, {}, "injected", 1, true},
-};
-const std::vector<Outcome> kParameterised{
-    {"SQLAllocHandle", 0, {}, "default", 1, true},
-    {"SQLPrepare", 0, {}, "injected", 1, true},
-    {"SQLBindParameter", 0, {}, "injected", 1, true},
-    {"SQLBindParameter", 0, {}, "injected", 1, true},
-    {"SQLExecute", 0, {}, "injected", 1, true},
-    {"SQLParamData", 0, {}, "injected", 1, true},
-    {"SQLPutData", 0, {}, "injected", 1, true},
-    {"SQLParamData", 0, {}, "injected", 1, true},
-    {"SQLPutData", 0, {}, "injected", 1, true},
-    {"SQLParamData", 0, {}, "injected", 1, true},
-};
+const std::vector<Outcome> kDirect{{"SQLAllocHandle", 0}, {"SQLSetStmtAttr", 0, {}, "injected"},
+    {"SQLExecDirect", 0, {}, "injected"}};
+const std::vector<Outcome> kParameterised{{"SQLAllocHandle", 0}, {"SQLPrepare", 0, {}, "injected"},
+    {"SQLBindParameter", 0, {}, "injected"}, {"SQLBindParameter", 0, {}, "injected"},
+    {"SQLExecute", 0, {}, "injected"}, {"SQLParamData", 0, {}, "injected"},
+    {"SQLPutData", 0, {}, "injected"}, {"SQLParamData", 0, {}, "injected"},
+    {"SQLPutData", 0, {}, "injected"}, {"SQLParamData", 0, {}, "injected"}};
 
 const Operation kOperations[] = {
     {"connect", disconnect, [](TestDatabase& d) { return dbConnect(d.connectString().c_str()); },
-        {
+        {{"SQLAllocHandle", 0, {}, "default", 0, false}, {"SQLSetEnvAttr", 1}, {"SQLGetEnvAttr", 1},
             {"SQLAllocHandle", 0, {}, "default", 0, false},
-            {"SQLSetEnvAttr", 1, {}, "default", 1, true},
-            {"SQLGetEnvAttr", 1, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 0, false},
-            {"SQLDriverConnect", 0, {}, "default", 0, false},
-            {"SQLSetConnectAttr", 1, {}, "default", 1, true},
-            {"SQLGetInfo", 0, {}, "default", 1, true},
-        }},
+            {"SQLDriverConnect", 0, {}, "default", 0, false}, {"SQLSetConnectAttr", 1},
+            {"SQLGetInfo", 0}}},
     {"connect again", change, [](TestDatabase&) { return dbConnect(nullptr); },
-        {
-            {"SQLEndTran", 1, {}, "default", 1, true},
-            {"SQLDisconnect", 1, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 0, false},
-            {"SQLSetEnvAttr", 1, {}, "default", 1, true},
-            {"SQLGetEnvAttr", 1, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 0, false},
-            {"SQLDriverConnect", 0, {}, "default", 0, false},
-            {"SQLSetConnectAttr", 1, {}, "default", 1, true},
-            {"SQLGetInfo", 0, {}, "default", 1, true},
-        }},
+        {{"SQLEndTran", 1}, {"SQLDisconnect", 1}, {"SQLFreeHandle", 1}, {"SQLFreeHandle", 1},
+            {"SQLAllocHandle", 0, {}, "default", 0, false}, {"SQLSetEnvAttr", 1},
+            {"SQLGetEnvAttr", 1}, {"SQLAllocHandle", 0, {}, "default", 0, false},
+            {"SQLDriverConnect", 0, {}, "default", 0, false}, {"SQLSetConnectAttr", 1},
+            {"SQLGetInfo", 0}}},
     {"disconnect", change, [](TestDatabase&) { return dbDisconnect(); },
-        {
-            {"SQLEndTran", 1, {}, "default", 0, false},
-            {"SQLDisconnect", 1, {}, "default", 0, false},
+        {{"SQLEndTran", 1, {}, "default", 0, false}, {"SQLDisconnect", 1, {}, "default", 0, false},
             {"SQLFreeHandle", 1, {}, "default", 0, false},
-            {"SQLFreeHandle", 1, {}, "default", 0, false},
-        }},
+            {"SQLFreeHandle", 1, {}, "default", 0, false}}},
     {"execute", nothing, [](TestDatabase&) { return dbExecute("SELECT 1"); }, kDirect},
     {"execute with bars", nothing, executeBars, isServer() ? kDirect : kParameterised},
     {"execute over a failed statement", [](TestDatabase&) { dbExecute("SELECT NO_SUCH_COLUMN"); },
         [](TestDatabase&) { return dbExecute("SELECT 1"); },
-        {
-            {"SQLFreeHandle", 1, {}, "default", 2, true},
-            {"SQLAllocHandle", 0, {}, "injected", 1, true},
-            {"SQLSetStmtAttr", 0, {}, "injected", 1, true},
-            {"SQLExecDirect", 0, {}, "injected", 1, true},
-        }},
+        {{"SQLFreeHandle", 1, {}, "default", 2}, {"SQLAllocHandle", 0, {}, "injected"},
+            {"SQLSetStmtAttr", 0, {}, "injected"}, {"SQLExecDirect", 0, {}, "injected"}}},
     {"fetch", openQuery, [](TestDatabase&) { return dbFetch(1); },
-        {
-            {"SQLFetch", -1, {}, "default", 2, true},
-        }},
+        {{"SQLFetch", -1, {}, "default", 2}}},
     {"read", openRow, readColumns,
-        {
-            {"SQLGetData", 2511, {}, "default", 2, true},
-            {"SQLGetData", 70011, {}, "default", 2, true},
-            {"SQLGetData", 72501, {}, "default", 2, true},
-            {"SQLGetData", 72510, {}, "default", 2, true},
-        }},
+        {{"SQLGetData", 2511, {}, "default", 2}, {"SQLGetData", 70011, {}, "default", 2},
+            {"SQLGetData", 72501, {}, "default", 2}, {"SQLGetData", 72510, {}, "default", 2}}},
     {"row count", openChange, [](TestDatabase&) { return dbRowCount(1); },
-        {
-            {"SQLRowCount", -1, {}, "default", 2, true},
-        }},
+        {{"SQLRowCount", -1, {}, "default", 2}}},
     {"close", openRow, [](TestDatabase&) { return dbCloseCursor(1); },
-        {
-            {"SQLFreeHandle", -1, {"default"}, "default", 2, true},
-        }},
+        {{"SQLFreeHandle", -1, {"default"}, "default", 2}}},
     {"commit", change,
         [](TestDatabase& d) {
             dbCommit();
             return rowsThere(d);
         },
-        {
-            {"SQLEndTran", 0, {}, "default", 1, true},
-        }},
+        {{"SQLEndTran", 0}}},
     {"rollback", change,
         [](TestDatabase& d) {
             dbRollback();
             dbCommit();
             return rowsThere(d);
         },
-        {
-            {"SQLEndTran", 1, {}, "default", 1, true},
-            {"SQLEndTran", 0, {}, "default", 1, true},
-        }},
+        {{"SQLEndTran", 1}, {"SQLEndTran", 0}}},
     {"tableExists", nothing, [](TestDatabase&) { return tableExists("NO_SUCH_SCRATCH"); },
-        {
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLPrepare", 0, {}, "default", 1, true},
-            {"SQLNumResultCols", 0, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-        }},
+        {{"SQLAllocHandle", 0}, {"SQLPrepare", 0}, {"SQLNumResultCols", 0}, {"SQLFreeHandle", 1}}},
     {"columnExists", nothing, [](TestDatabase&) { return columnExists("NO_SUCH_SCRATCH", "a"); },
-        {
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLPrepare", 0, {}, "default", 1, true},
-            {"SQLNumResultCols", 0, {}, "default", 1, true},
-            {"SQLDescribeCol", 0, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-        }},
+        {{"SQLAllocHandle", 0}, {"SQLPrepare", 0}, {"SQLNumResultCols", 0}, {"SQLDescribeCol", 0},
+            {"SQLFreeHandle", 1}}},
     {"viewExists", [](TestDatabase& d) { d.run("CREATE VIEW NO_SUCH_VIEW AS SELECT 1"); },
         [](TestDatabase&) { return viewExists("NO_SUCH_VIEW"); },
-        {
-            {"SQLGetInfo", 1, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLTables", 0, {}, "default", 1, true},
-            {"SQLFetch", 0, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-        }},
+        {{"SQLGetInfo", 1}, {"SQLAllocHandle", 0}, {"SQLTables", 0}, {"SQLFetch", 0},
+            {"SQLFreeHandle", 1}}},
     {"columnType", nothing, typeOfColumn,
-        {
-            {"SQLGetInfo", 1140, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLColumns", 0, {}, "default", 1, true},
-            {"SQLFetch", 0, {}, "default", 1, true},
-            {"SQLGetData", 1040, {}, "default", 1, true},
-            {"SQLGetData", 1100, {}, "default", 1, true},
-            {"SQLFreeHandle", 1140, {}, "default", 1, true},
-        }},
+        {{"SQLGetInfo", 1140}, {"SQLAllocHandle", 0}, {"SQLColumns", 0}, {"SQLFetch", 0},
+            {"SQLGetData", 1040}, {"SQLGetData", 1100}, {"SQLFreeHandle", 1140}}},
     {"listColumns", nothing, columnCount,
-        {
-            {"SQLGetInfo", 1, {}, "default", 1, true},
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLColumns", 0, {}, "default", 1, true},
-            {"SQLFetch", 0, {}, "default", 1, true},
-            {"SQLGetData", 0, {}, "default", 1, true},
-            {"SQLGetData", 1, {}, "default", 1, true},
-            {"SQLGetData", 1, {}, "default", 1, true},
-            {"SQLFetch", 1, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-        }},
+        {{"SQLGetInfo", 1}, {"SQLAllocHandle", 0}, {"SQLColumns", 0}, {"SQLFetch", 0},
+            {"SQLGetData", 0}, {"SQLGetData", 1}, {"SQLGetData", 1}, {"SQLFetch", 1},
+            {"SQLFreeHandle", 1}}},
     {"listTables", nothing, tableCount,
-        {
-            {"SQLAllocHandle", 0, {}, "default", 1, true},
-            {"SQLTables", 0, {}, "default", 1, true},
-            {"SQLFetch", 0, {}, "default", 1, true},
-            {"SQLGetData", 0, {}, "default", 1, true},
-            {"SQLFetch", 1, {}, "default", 1, true},
-            {"SQLFreeHandle", 1, {}, "default", 1, true},
-        }},
+        {{"SQLAllocHandle", 0}, {"SQLTables", 0}, {"SQLFetch", 0}, {"SQLGetData", 0},
+            {"SQLFetch", 1}, {"SQLFreeHandle", 1}}},
     {"nextId", change, [](TestDatabase&) { return nextId("7", "NO_SUCH_SCRATCH"); },
-        {
-            {"SQLAllocHandle", 1, {kSelect, "default"}, "default", 1, true},
-            {"SQLSetStmtAttr", 1, {kSelect, "injected"}, "default", 1, true},
-            {"SQLExecDirect", 1, {kSelect, "injected"}, "default", 1, true},
-            {"SQLFetch", 1, {}, "default", 1, true},
-            {"SQLGetData", 1, {}, "default", 1, true},
-            {"SQLFreeHandle", 8, {"default"}, "default", 2, true},
-        }},
-};
+        {{"SQLAllocHandle", 1, {kSelect, "default"}}, {"SQLSetStmtAttr", 1, {kSelect, "injected"}},
+            {"SQLExecDirect", 1, {kSelect, "injected"}}, {"SQLFetch", 1}, {"SQLGetData", 1},
+            {"SQLFreeHandle", 8, {"default"}, "default", 2}}}};
 
 class EachDriverCallFailing : public testing::TestWithParam<Operation> {};
 TEST_P(EachDriverCallFailing, LeavesWhatTheTableSays)

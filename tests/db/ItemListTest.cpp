@@ -44,87 +44,18 @@ TEST(ItemList, TextsHoldWhatFits)
     EXPECT_STREQ("new", out);
 }
 
-TEST(ItemList, SortedByBytesAndBehindEquals)
+TEST(ItemList, Orders)
 {
-    ItemList list(1);
-    addAll(list, {{1, "b"}, {2, "A"}, {3, "a"}, {4, "b"}, {5, "A"}, {6, "\u00C4"}});
-    EXPECT_THAT(contents(list), ElementsAre("2A", "5A", "3a", "1b", "4b", "6\u00C4"));
-}
-
-TEST(ItemList, UnsortedKeepsArrival)
-{
-    ItemList list;
-    addAll(list, {{1, "b"}, {2, "A"}, {3, "b"}});
-    EXPECT_THAT(contents(list), ElementsAre("1b", "2A", "3b"));
-}
-
-TEST(ItemList, BeforeAnItemWhateverItsText)
-{
-    for (const int sorted : {0, 1}) {
-        ItemList list(sorted);
-        addAll(list, {{1, "a"}, {2, "b"}});
-        list.add(new Item(3, "z"), list.find(1));
-        EXPECT_THAT(contents(list), ElementsAre("3z", "1a", "2b"));
-    }
-}
-
-class Filled : public testing::Test {
-protected:
-    Filled() { addAll(list, {{7, "seven"}, {8, "eight"}, {7, "again"}, {0, "none"}}); }
-    ItemList list;
-    int id = 99;
-    char text[200] = "untouched";
-};
-
-TEST_F(Filled, LooksUp)
-{
-    EXPECT_STREQ("seven", list.find(7)->text);
-    EXPECT_EQ(nullptr, list.find(9));
-    EXPECT_EQ(1, list.indexOf(8));
-    EXPECT_EQ(0, list.indexOf(7));
-    EXPECT_EQ(-1, list.indexOf(9));
-    EXPECT_EQ(7, list.idAt(2));
-    EXPECT_EQ(-1, list.idAt(4));
-    EXPECT_EQ(-1, list.idAt(-1));
-    EXPECT_EQ(7, list.idOf("again"));
-    EXPECT_EQ(0, list.idOf("Again"));
-    EXPECT_EQ(0, list.idOf(nullptr));
-}
-
-TEST_F(Filled, GetsByPosition)
-{
-    list.get(1, &id, text);
-    EXPECT_EQ(8, id);
-    EXPECT_STREQ("eight", text);
-    for (const int outside : {4, 5, -1}) {
-        id = 99;
-        list.get(outside, &id, text);
-        EXPECT_EQ(-1, id);
-        EXPECT_STREQ("", text);
-    }
-}
-
-TEST_F(Filled, LookingUpLeavesTheCursor)
-{
-    list.reset();
-    list.next();
-    list.find(7);
-    list.indexOf(9);
-    list.idAt(3);
-    list.get(2, &id, text);
-    list.idOf("none");
-    EXPECT_EQ(8, list.next()->id);
-}
-
-TEST_F(Filled, RemovesEveryOne)
-{
-    EXPECT_EQ(0, list.removeId(9));
-    EXPECT_EQ(1, list.removeId(7));
-    EXPECT_THAT(contents(list), ElementsAre("8eight", "0none"));
-    EXPECT_EQ(0, list.removeId(7));
-    list.clear();
-    EXPECT_THAT(contents(list), IsEmpty());
-    EXPECT_EQ(-1, list.idAt(0));
+    ItemList sorted(1);
+    addAll(sorted, {{1, "b"}, {2, "A"}, {3, "a"}, {4, "b"}, {5, "A"}, {6, "\u00C4"}});
+    EXPECT_THAT(contents(sorted), ElementsAre("2A", "5A", "3a", "1b", "4b", "6\u00C4"));
+    ItemList unsorted;
+    addAll(unsorted, {{1, "b"}, {2, "A"}, {3, "b"}});
+    EXPECT_THAT(contents(unsorted), ElementsAre("1b", "2A", "3b"));
+    for (ItemList* list : {&sorted, &unsorted}) // before an item whatever its text
+        list->add(new Item(7, "z"), list->find(2));
+    EXPECT_EQ(0, sorted.indexOf(7));
+    EXPECT_EQ(1, unsorted.indexOf(7));
 }
 
 /// A box without a window.
@@ -149,35 +80,86 @@ class FakeComboBox : public FakeBox<zComboBoxBase> {
     void reset() override { empty(); }
 };
 
-TEST_F(Filled, FillsBoxes)
-{
+class Filled : public testing::Test {
+protected:
+    Filled() { addAll(list, {{7, "seven"}, {8, "eight"}, {7, "again"}, {0, "none"}}); }
+    ItemList list;
     FakeListBox listBox;
     FakeComboBox comboBox;
+    int id = 99;
+    char text[200] = "untouched";
+};
+
+TEST_F(Filled, LooksUp)
+{
+    EXPECT_STREQ("seven", list.find(7)->text);
+    EXPECT_EQ(nullptr, list.find(9));
+    EXPECT_EQ(1, list.indexOf(8));
+    EXPECT_EQ(0, list.indexOf(7));
+    EXPECT_EQ(-1, list.indexOf(9));
+    EXPECT_EQ(7, list.idAt(2));
+    EXPECT_EQ(-1, list.idAt(4));
+    EXPECT_EQ(-1, list.idAt(-1));
+    EXPECT_EQ(7, list.idOf("again"));
+    EXPECT_EQ(0, list.idOf("Again"));
+    EXPECT_EQ(0, list.idOf(nullptr));
+}
+
+TEST_F(Filled, GetsByPositionAndLeavesTheCursor)
+{
+    list.reset();
+    list.next();
+    list.get(1, &id, text);
+    EXPECT_EQ(8, id);
+    EXPECT_STREQ("eight", text);
+    for (const int outside : {4, 5, -1}) {
+        id = 99;
+        list.get(outside, &id, text);
+        EXPECT_EQ(-1, id);
+        EXPECT_STREQ("", text);
+    }
+    list.find(7);
+    list.indexOf(9);
+    list.idOf("none");
+    EXPECT_EQ(8, list.next()->id);
+}
+
+TEST_F(Filled, RemovesEveryOne)
+{
+    EXPECT_EQ(0, list.removeId(9));
+    EXPECT_EQ(1, list.removeId(7));
+    EXPECT_THAT(contents(list), ElementsAre("8eight", "0none"));
+    EXPECT_EQ(0, list.removeId(7));
+    list.clear();
+    EXPECT_THAT(contents(list), IsEmpty());
+    EXPECT_EQ(-1, list.idAt(0));
+}
+
+TEST_F(Filled, FillsBoxesAndSelects)
+{
     list.fillListBox(listBox, 8);
     list.fillComboBox(comboBox, 7);
     EXPECT_THAT(listBox.rows, ElementsAre("seven", "eight", "again", "none"));
     EXPECT_EQ(listBox.rows, comboBox.rows);
     EXPECT_EQ(1, listBox.selected);
     EXPECT_EQ(0, comboBox.selected) << "the first of that identifier";
+    list.selectInListBox(listBox, 0);
+    list.selectInComboBox(comboBox, 8);
+    EXPECT_EQ(3, listBox.selected) << "0 is an identifier";
+    EXPECT_EQ(1, comboBox.selected);
+    list.selectInListBox(listBox, 9);
+    list.selectInComboBox(comboBox, 9);
+    EXPECT_EQ(3, listBox.selected) << "one that is not there changes nothing";
+    EXPECT_EQ(1, comboBox.selected);
     list.fillListBox(listBox, 9);
-    list.fillComboBox(comboBox, 0);
-    EXPECT_EQ(0, listBox.selected) << "the first row for one that is not there";
-    EXPECT_EQ(3, comboBox.selected) << "0 is an identifier";
-}
-
-TEST(ItemList, AnEmptyListSelectsNothing)
-{
-    const ItemList list;
-    FakeListBox box;
-    list.fillListBox(box, 1);
-    EXPECT_THAT(box.rows, IsEmpty());
-    EXPECT_EQ(-1, box.selected);
+    EXPECT_EQ(0, listBox.selected) << "and is filled as the first row";
+    ItemList().fillListBox(listBox, 9);
+    EXPECT_THAT(listBox.rows, IsEmpty());
+    EXPECT_EQ(-1, listBox.selected) << "if there is a row";
 }
 
 TEST_F(Filled, ReadsTheSelection)
 {
-    FakeListBox listBox;
-    FakeComboBox comboBox;
     list.fillListBox(listBox, 8);
     list.fillComboBox(comboBox, 8);
     listBox.selected = 2;
@@ -186,38 +168,15 @@ TEST_F(Filled, ReadsTheSelection)
     EXPECT_STREQ("again", text);
     EXPECT_EQ(1, list.getComboBoxSelection(comboBox, &id, nullptr));
     EXPECT_EQ(8, id);
-}
-
-TEST_F(Filled, NoSelectionReadsAsNone)
-{
-    FakeListBox box;
-    list.fillListBox(box, 8);
-    box.selected = -1;
-    EXPECT_EQ(0, list.getListBoxSelection(box, &id, text));
+    listBox.selected = -1;
+    EXPECT_EQ(0, list.getListBoxSelection(listBox, &id, text));
     EXPECT_EQ(-1, id);
     EXPECT_STREQ("", text);
-    FakeComboBox emptyBox;
-    emptyBox.empty();
-    emptyBox.selected = 0; // some boxes say so even without rows
+    comboBox.rows.clear();
+    comboBox.selected = 0; // some boxes say so even without rows
     id = 99;
-    EXPECT_EQ(0, list.getComboBoxSelection(emptyBox, &id, nullptr));
+    EXPECT_EQ(0, list.getComboBoxSelection(comboBox, &id, nullptr));
     EXPECT_EQ(-1, id);
-}
-
-TEST_F(Filled, SelectsById)
-{
-    FakeListBox listBox;
-    FakeComboBox comboBox;
-    list.fillListBox(listBox, 7);
-    list.fillComboBox(comboBox, 7);
-    list.selectInListBox(listBox, 8);
-    list.selectInComboBox(comboBox, 0);
-    EXPECT_EQ(1, listBox.selected);
-    EXPECT_EQ(3, comboBox.selected);
-    list.selectInListBox(listBox, 9);
-    list.selectInComboBox(comboBox, 9);
-    EXPECT_EQ(1, listBox.selected);
-    EXPECT_EQ(3, comboBox.selected);
 }
 
 class LoadedItemList : public testing::Test {
@@ -270,7 +229,7 @@ TEST_F(LoadedItemList, EqualTextsKeepTheOrderOfTheRows)
     EXPECT_EQ(contents(addedOneByOne), contents(list));
 }
 
-TEST_F(LoadedItemList, ASecondLoadReplaces)
+TEST_F(LoadedItemList, EachLoadReplaces)
 {
     store("(1, 'b'), (2, 'a')");
     ItemList list(1);
@@ -280,12 +239,6 @@ TEST_F(LoadedItemList, ASecondLoadReplaces)
     list.load("IGD_SCH", "sch_id", "name");
     EXPECT_THAT(contents(list), ElementsAre("3c"));
     EXPECT_THAT(messages.texts(), IsEmpty());
-}
-
-TEST_F(LoadedItemList, AFailedLoadLeavesItEmpty)
-{
-    ItemList list;
-    list.addNew(1, "old");
     list.load("NO_SUCH_LIST", "id", "name");
     EXPECT_THAT(contents(list), IsEmpty());
     EXPECT_THAT(messages.texts(),

@@ -4,8 +4,6 @@
 #include "tests/db/Kind.h"
 #include "tests/support/MessageLog.h"
 
-#include <functional>
-#include <ostream>
 #include <string>
 
 #include <gmock/gmock.h>
@@ -112,31 +110,16 @@ TEST_F(Lookups, NextIdentifier)
     EXPECT_EQ(-4, nextId("well_id", "WELL_IDENT"));
 }
 
-struct FatalCase {
-    const char* name;
-    const char* missingTable;
-    std::function<void()> lookup;
-};
-void PrintTo(const FatalCase& c, std::ostream* out) { *out << c.name; }
-
-const FatalCase kFatal[] = {
-    {"speciesDisc", "SPECIES", [] { speciesDisc(100); }},
-    {"speciesCategory", "GENUS", [] { speciesCategory(100); }},
-    {"schemeNameOf", "IGD_SCH",
-        [] {
-            char name[81];
-            schemeNameOf(3, name);
-        }},
-};
-
-class FatalLookup : public Lookups, public testing::WithParamInterface<FatalCase> {};
-TEST_P(FatalLookup, EndsTheProcess)
+TEST_F(Lookups, FailuresThatEndTheProcess)
 {
     messages.echo();
-    database.run(std::string("DROP TABLE ") + GetParam().missingTable);
-    EXPECT_EXIT(GetParam().lookup(), testing::ExitedWithCode(1),
-        std::string("box: SELECT .*\nbox: .*") + GetParam().missingTable);
+    for (const char* table : {"GENUS", "IGD_SCH"})
+        database.run(std::string("DROP TABLE ") + table);
+    char name[81];
+    const auto ended = testing::ExitedWithCode(1);
+    EXPECT_EXIT(speciesDisc(100), ended, "box: SELECT c.disc_id.*\nbox: .*GENUS");
+    EXPECT_EXIT(speciesCategory(100), ended, "box: SELECT g.cat_mnem.*\nbox: .*GENUS");
+    EXPECT_EXIT(schemeNameOf(3, name), ended, "box: SELECT name.*\nbox: .*IGD_SCH");
 }
-INSTANTIATE_TEST_SUITE_P(Failed, FatalLookup, testing::ValuesIn(kFatal));
 
 } // namespace

@@ -57,6 +57,18 @@ TEST_F(OdbcCalls, AFailedStatementIsDroppedWhenItsNumberIsNeeded)
             "SQLError", "SQLFreeStmt 1", "SQLSetStmtOption 2=1", "SQLExecDirect \"SELECT 1\""));
 }
 
+TEST_F(OdbcCalls, WhatADriverLeavesInTheBufferOfNoValueIsNotRead)
+{
+    const short cursor = dbExecute("SELECT 1");
+    for (const short column : std::initializer_list<short>{1, 2}) {
+        EXPECT_EQ(0, dbGetLong(cursor, column));
+        EXPECT_EQ(0.0, dbGetDouble(cursor, column));
+        EXPECT_STREQ("", dbGetString(cursor, column));
+        EXPECT_EQ('\0', dbGetChar(cursor, column));
+    }
+    dbCloseCursor(cursor);
+}
+
 // The switch is one for the life of the process, so the process ends with the check.
 TEST_F(OdbcCalls, TheDriverThatNeedsItsScanKeepsIt)
 {

@@ -6,7 +6,6 @@
 #include "tests/support/MessageLog.h"
 #include "tests/support/Restore.h"
 
-#include <functional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -16,9 +15,11 @@
 
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 constexpr int kUser = 42;
@@ -63,13 +64,8 @@ TEST_F(Preferences, WritingTwiceGivesOneRow)
     EXPECT_EQ(1, prefPut(kUser, "TOPPFX", "Top of "));
     EXPECT_EQ(1, prefPut(43, "TOPPFX", "theirs"));
     EXPECT_EQ(1, prefPut(kUser, "TOPPFX", "Upper "));
+    EXPECT_EQ("0", database.value("SELECT COUNT(*) FROM PREF_USER")) << "nothing is committed";
     EXPECT_THAT(stored(), ElementsAre("42|TOPPFX|Upper ", "43|TOPPFX|theirs"));
-}
-
-TEST_F(Preferences, NothingIsCommitted)
-{
-    EXPECT_EQ(1, prefPut(kUser, "TOPPFX", "x"));
-    EXPECT_EQ("0", database.value("SELECT COUNT(*) FROM PREF_USER"));
 }
 
 TEST_F(Preferences, NumbersAreStoredAsPrinted)
@@ -86,45 +82,38 @@ TEST_F(Preferences, NumbersAreStoredAsPrinted)
     EXPECT_EQ(1.5F, number);
 }
 
-struct StoredCase {
-    const char* name;
-    const char* literal;
-    int found;
-    const char* text;
-    int numberFound;
-    int integer; // 77 and 0.5: left as they were
-    float number;
-};
-void PrintTo(const StoredCase& c, std::ostream* out) { *out << c.name; }
-
-const StoredCase kStored[] = {
-    {"NULL is the empty text and no number", "NULL", 1, "", 0, 77, 0.5F},
-    {"the final blank is gone", "'Top of '", 1, "Top of", 1, 77, 0.5F},
-    {"number", "'12'", 1, "12", 1, 12, 12.0F},
-    {"number with decimals", "' 3.75'", 1, " 3.75", 1, 3, 3.75F},
-    {"signed", "'+4x'", 1, "+4x", 1, 4, 4.0F},
-    {"exponent", "'1e2'", 1, "1e2", 1, 1, 100.0F},
-};
-
-class Stored : public Preferences, public testing::WithParamInterface<StoredCase> {};
-TEST_P(Stored, Reads)
+TEST_F(Preferences, StoredTexts)
 {
-    const StoredCase& c = GetParam();
-    store("KEY", c.literal);
-    char text[300] = "untouched";
-    std::string whole = "untouched";
-    int integer = 77;
-    float number = 0.5F;
-    EXPECT_EQ(c.found, prefGet(kUser, "KEY", text));
-    EXPECT_STREQ(c.text, text);
-    EXPECT_EQ(c.found, prefGet(kUser, "KEY", whole));
-    EXPECT_EQ(c.text, whole);
-    EXPECT_EQ(c.numberFound, prefGetInt(kUser, "KEY", &integer));
-    EXPECT_EQ(c.integer, integer);
-    EXPECT_EQ(c.numberFound, prefGetFloat(kUser, "KEY", &number));
-    EXPECT_EQ(c.number, number);
+    const struct {
+        const char *literal, *text;
+        int numberFound, integer; // 77 and 0.5: left as they were
+        float number;
+    } rows[] = {
+        {"NULL", "", 0, 77, 0.5F},
+        {"'Top of '", "Top of", 1, 77, 0.5F},
+        {"'12'", "12", 1, 12, 12.0F},
+        {"' 3.75'", " 3.75", 1, 3, 3.75F},
+        {"'+4x'", "+4x", 1, 4, 4.0F},
+        {"'1e2'", "1e2", 1, 1, 100.0F},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.literal);
+        database.run("DELETE FROM PREF_USER");
+        store("KEY", row.literal);
+        char text[300] = "untouched";
+        std::string whole = "untouched";
+        int integer = 77;
+        float number = 0.5F;
+        EXPECT_EQ(1, prefGet(kUser, "KEY", text));
+        EXPECT_STREQ(row.text, text);
+        EXPECT_EQ(1, prefGet(kUser, "KEY", whole));
+        EXPECT_EQ(row.text, whole);
+        EXPECT_EQ(row.numberFound, prefGetInt(kUser, "KEY", &integer));
+        EXPECT_EQ(row.integer, integer);
+        EXPECT_EQ(row.numberFound, prefGetFloat(kUser, "KEY", &number));
+        EXPECT_EQ(row.number, number);
+    }
 }
-INSTANTIATE_TEST_SUITE_P(Values, Stored, testing::ValuesIn(kStored));
 
 TEST_F(Preferences, CopiesOnlyWhatTheBufferHolds)
 {
@@ -141,23 +130,14 @@ TEST_F(Preferences, CopiesOnlyWhatTheBufferHolds)
     EXPECT_EQ(420U, whole.size());
 }
 
-struct LongKeyCase {
+// Every operation, and which check speaks in it when the key is long: r reading, w writing.
+struct Operation {
     const char* name;
-    std::function<int(const char*)> operation;
-    std::vector<std::string> attempts; // which check spoke, in order
+    int (*run)(const char* key);
+    const char* checks;
 };
-void PrintTo(const LongKeyCase& c, std::ostream* out) { *out << c.name; }
+void PrintTo(const Operation& o, std::ostream* out) { *out << o.name; }
 
-int getInt(const char* key)
-{
-    int value = 0;
-    return prefGetInt(kUser, key, &value);
-}
-int getFloat(const char* key)
-{
-    float value = 0;
-    return prefGetFloat(kUser, key, &value);
-}
 int getText(const char* key)
 {
     char value[300];
@@ -168,38 +148,34 @@ int getString(const char* key)
     std::string value;
     return prefGet(kUser, key, value);
 }
+template <typename T, int (*get)(int, const char*, T*)> int getNumber(const char* key)
+{
+    T value = 0;
+    return get(kUser, key, &value);
+}
 
-const LongKeyCase kOperations[] = {
-    {"prefGet into a buffer", getText, {"select"}},
-    {"prefGet into a string", getString, {"select"}},
-    {"prefGetInt", getInt, {"select", "select"}},
-    {"prefGetFloat", getFloat, {"select", "select"}},
-    {"prefPut", [](const char* key) { return prefPut(kUser, key, "1"); }, {"put", "select"}},
-    {"prefPutInt", [](const char* key) { return prefPutInt(kUser, key, 1); },
-        {"put", "put", "select"}},
-    {"prefPutFloat", [](const char* key) { return prefPutFloat(kUser, key, 1); },
-        {"put", "put", "select"}},
-};
+const Operation kOperations[] = {{"prefGet into a buffer", getText, "r"},
+    {"prefGet into a string", getString, "r"}, {"prefGetInt", getNumber<int, prefGetInt>, "rr"},
+    {"prefGetFloat", getNumber<float, prefGetFloat>, "rr"},
+    {"prefPut", [](const char* key) { return prefPut(kUser, key, "1"); }, "wr"},
+    {"prefPutInt", [](const char* key) { return prefPutInt(kUser, key, 1); }, "wwr"},
+    {"prefPutFloat", [](const char* key) { return prefPutFloat(kUser, key, 1); }, "wwr"}};
 
-class EveryOperation : public Preferences, public testing::WithParamInterface<LongKeyCase> {};
+class EveryOperation : public Preferences, public testing::WithParamInterface<Operation> {};
 
 TEST_P(EveryOperation, ReportsALongKeyAndGoesOn)
 {
+    store("ABCDEFGHIJ", "'5'");
     store("ABCDEFGHIJK", "'5'");
+    EXPECT_EQ(1, GetParam().run("ABCDEFGHIJ"));
+    EXPECT_THAT(messages.texts(), IsEmpty()) << "ten are allowed";
+    EXPECT_EQ(1, GetParam().run("ABCDEFGHIJK"));
     std::vector<std::string> expected;
-    for (const std::string& attempt : GetParam().attempts)
-        expected.push_back(attempt == "put"
+    for (const char check : std::string(GetParam().checks))
+        expected.push_back(check == 'w'
                 ? "Attempt to put value into PREF_USER over 10 chars: ABCDEFGHIJK"
                 : "Attempt to select value from PREF_USER over 10 chars: ABCDEFGHIJK");
-    EXPECT_EQ(1, GetParam().operation("ABCDEFGHIJK"));
     EXPECT_EQ(expected, messages.texts());
-}
-
-TEST_P(EveryOperation, TakesAKeyOfTenSilently)
-{
-    store("ABCDEFGHIJ", "'5'");
-    EXPECT_EQ(1, GetParam().operation("ABCDEFGHIJ"));
-    EXPECT_THAT(messages.texts(), IsEmpty());
 }
 
 TEST_P(EveryOperation, DoesNothingWhileTheProcessIsToEnd)
@@ -207,7 +183,7 @@ TEST_P(EveryOperation, DoesNothingWhileTheProcessIsToEnd)
     store("ABCDEFGHIJK", "'5'");
     const Restore fatal(fatalError, 1);
     const StatementLog log;
-    EXPECT_EQ(0, GetParam().operation("ABCDEFGHIJK"));
+    EXPECT_EQ(0, GetParam().run("ABCDEFGHIJK"));
     EXPECT_THAT(log.statements(), IsEmpty());
     EXPECT_THAT(messages.texts(), IsEmpty());
 }
@@ -215,31 +191,25 @@ INSTANTIATE_TEST_SUITE_P(Preferences, EveryOperation, testing::ValuesIn(kOperati
 
 const std::string kWhere = " WHERE pref_key='KEY' AND user_id=42";
 
-TEST_F(Preferences, FailuresToRead)
+TEST_F(Preferences, FailuresWithoutTheTable)
 {
     database.run("DROP TABLE PREF_USER");
     const std::string select = "SELECT pref_value FROM " + sql::table("PREF_USER") + kWhere;
+    const auto selecting = StartsWith("Error selecting from PREF_USER table: ");
     EXPECT_EQ(0, getText("KEY"));
-    EXPECT_THAT(messages.texts(),
-        ElementsAre(select, StartsWith("Error selecting from PREF_USER table: ")));
+    EXPECT_THAT(messages.texts(), ElementsAre(select, selecting));
     messages.clear();
     EXPECT_EQ(0, getString("KEY"));
     EXPECT_THAT(messages.texts(),
-        ElementsAre(
-            select, testing::AllOf(HasSubstr("PREF_USER"), testing::Not(StartsWith("Err")))));
-    EXPECT_EQ(0, fatalError);
-}
-
-TEST_F(Preferences, AFailedLookUpGoesOnToInsert)
-{
-    database.run("DROP TABLE PREF_USER");
-    EXPECT_EQ(0, prefPut(kUser, "KEY", "x"));
+        ElementsAre(select, AllOf(HasSubstr("PREF_USER"), Not(StartsWith("Error selecting")))));
+    messages.clear();
+    EXPECT_EQ(0, prefPut(kUser, "KEY", "x")) << "a failed look-up goes on to insert";
     EXPECT_THAT(messages.texts(),
-        ElementsAre("SELECT pref_value FROM " + sql::table("PREF_USER") + kWhere,
-            StartsWith("Error selecting from PREF_USER table: "),
+        ElementsAre(select, selecting,
             "INSERT INTO " + sql::table("PREF_USER")
                 + " (user_id, pref_key, pref_value ) VALUES (42,'KEY','x')",
             StartsWith("Error inserting into PREF_USER table: ")));
+    EXPECT_EQ(0, fatalError);
 }
 
 TEST_F(Preferences, AFailedUpdateDoesNotInsert)
@@ -250,8 +220,7 @@ TEST_F(Preferences, AFailedUpdateDoesNotInsert)
     EXPECT_TRUE(fault.fired());
     EXPECT_THAT(messages.texts(),
         ElementsAre("UPDATE " + sql::table("PREF_USER") + " SET pref_value=NULL" + kWhere,
-            testing::AllOf(
-                StartsWith("Error updating PREF_USER table: "), HasSubstr("no update"))));
+            AllOf(StartsWith("Error updating PREF_USER table: "), HasSubstr("no update"))));
     EXPECT_EQ(1, dbExecute("SELECT 1")) << "no cursor is left";
 }
 

@@ -141,20 +141,17 @@ TEST_F(SchemaInspection, ListedTables)
     EXPECT_THAT(tables(50), Contains(name)) << "cut between characters";
 }
 
-struct TypeCase {
-    const char* column;
-    const char* word;
-    int precision;
-};
-
 TEST_F(SchemaInspection, ColumnTypes)
 {
     database.run("CREATE TABLE NO_SUCH_K (c CHAR(5), v VARCHAR(7), n NUMERIC(8,2), i INTEGER, "
                  "s SMALLINT, f FLOAT, r REAL, x DOUBLE, d DATE, t TIMESTAMP, h TIME)");
-    const TypeCase types[] = {{"c", "text", 5}, {"v", "text", 7}, {"n", "number", 8},
-        {"i", "number", 10}, {"s", "number", 5}, {"f", "number", 15}, {"r", "number", 7},
-        {"x", "number", 15}, {"d", "date", 10}, {"t", "date", 19}, {"h", "unknown", 8}};
-    for (const TypeCase& type : types) {
+    const struct {
+        const char *column, *word;
+        int precision;
+    } types[] = {{"c", "text", 5}, {"v", "text", 7}, {"n", "number", 8}, {"i", "number", 10},
+        {"s", "number", 5}, {"f", "number", 15}, {"r", "number", 7}, {"x", "number", 15},
+        {"d", "date", 10}, {"t", "date", 19}, {"h", "unknown", 8}};
+    for (const auto& type : types) {
         char word[20] = "";
         int precision = -1;
         EXPECT_EQ(1, columnType("NO_SUCH_K", type.column, word, &precision)) << type.column;

@@ -10,7 +10,8 @@
 
 namespace {
 
-// Every commit of every test waits for the disk; where the machine has a folder in memory, none does.
+// Every commit of every test waits for the disk; where the machine has a folder in memory, none
+// does.
 std::filesystem::path place()
 {
     const std::filesystem::path inMemory = "/dev/shm";
