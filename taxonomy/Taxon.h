@@ -35,8 +35,8 @@ public:
         : Taxon(static_cast<long>(spec_id))
     {
     }
-    /// The four parts as passed, then their identifiers as by `getAddGenus(1, 1)` and, unless that
-    /// gives 0, `getAddSpecies(1, 1)`.
+    /// The four parts as passed, then their identifiers as by `getAddGenus(1, 1)` and
+    /// `getAddSpecies(1, 1)`.
     Taxon(const char* category, const char* genus, const char* species, const char* subspecies);
     /// Free texts as people type them: a qualifier in front of and behind each is recognised, a
     /// text of more than 30 bytes is split into name and subname, letter case is set right. Then

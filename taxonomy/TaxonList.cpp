@@ -73,8 +73,7 @@ void TaxonList::sortBy(int mode, int usePreferred)
     while (!isEmpty())
         pop();
     for (const taxonOrder::Entry& entry : entries)
-        push(entry.listed);
-    reset();
+        push(entry.listed); // the first one takes the cursor
 }
 
 void TaxonList::addWellTaxa(long well_id, char disc)

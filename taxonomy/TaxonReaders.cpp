@@ -192,7 +192,7 @@ void readFurtherWords(Taxon& taxon, Words& words)
         if (!text.empty())
             text += ' ';
         taxon.setField(target, text);
-        if (text.size() + word.size() > kLongestPart && target != slot::author) {
+        if (text.size() + word.size() > kLongestPart) {
             target = target == slot::species ? slot::subspecies : slot::author;
             text = taxon.field(target);
         }
@@ -229,8 +229,8 @@ Taxon::Taxon(const char* category, const char* genus, const char* species, const
     setField(slot::genus, genus);
     setField(slot::species, species);
     setField(slot::subspecies, subspecies);
-    if (getAddGenus(1, 1))
-        getAddSpecies(1, 1);
+    getAddGenus(1, 1);
+    getAddSpecies(1, 1); // without a genus it asks for nothing
 }
 
 Taxon::Taxon(const char* genusText, const char* speciesText, const char* category)
