@@ -28,7 +28,7 @@
 namespace {
 
 constexpr QSize kFirstSize(1100, 700);
-constexpr int kListWidth = 260;
+constexpr int kListWidth = 250;
 
 QWidget* below(QWidget* upper, QWidget* lower)
 {

@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kRowMargin = 6;      // pixels above and below the text, together
-constexpr int kColumnMargin = 10;  // pixels beside the text, on both sides together
+constexpr int kColumnMargin = 8;   // pixels beside the text, on both sides together
 constexpr int kMeasuredRows = 200; // a well may have thousands, and all would take long
 
 } // namespace

@@ -14,7 +14,7 @@
 namespace {
 
 constexpr int kColumns = 3;       // of fields beside each other
-constexpr int kMostLines = 16;    // of text, before the panel scrolls
+constexpr int kMostLines = 18;    // of text, before the panel scrolls
 constexpr float kCaption = 0.65F; // of the text's colour
 constexpr double kTitle = 1.4;    // times the size of the other texts
 
@@ -68,7 +68,7 @@ WellHeaderPanel::WellHeaderPanel(QWidget* parent)
     setWidgetResizable(true);
     makeFields();
     setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
     setFocusPolicy(Qt::StrongFocus);
@@ -161,7 +161,7 @@ void WellHeaderPanel::makeFields()
         values_.push_back(value);
     }
     for (int column = 0; column < kColumns; ++column)
-        grid->setColumnStretch(2 * column + 1, 1);
+        grid->setColumnStretch(2 * column + 1, column == 0 ? 3 : 2); // names need more room
     grid->setHorizontalSpacing(2 * grid->horizontalSpacing());
     colourCaptions();
 }
