@@ -7,7 +7,7 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <map>
 
 namespace {
 
@@ -95,10 +95,12 @@ Outcome sum(Outcome a, Outcome b)
 // Notes that others wrote stay; one without room is left out.
 void addNote(std::string& notes, const std::string& note)
 {
-    if (note.empty() || notes.find(note) != std::string::npos)
-        return;
-    const std::string longer = notes + (notes.empty() ? "" : "; ") + note;
-    if (longer.size() <= kNotesCapacity)
+    const std::string added = shownText(storedText(note));
+    const std::string between = "; ";
+    const bool there =
+        (between + notes + between).find(between + added + between) != std::string::npos;
+    const std::string longer = notes + (notes.empty() ? "" : between) + added;
+    if (!added.empty() && !there && longer.size() <= kNotesCapacity)
         notes = longer;
 }
 
@@ -210,13 +212,15 @@ DictionaryTaxon* TaxonWriter::find(const Taxon& name) const
     return otherwise;
 }
 
-std::vector<std::string> TaxonWriter::categoriesOfGenus(const Taxon& name) const
+std::optional<std::string> TaxonWriter::categoryOfGenus(const Taxon& name) const
 {
-    std::set<std::string> categories;
+    std::map<std::string, int> names;
     for (const DictionaryTaxon& entry : taxa_)
         if (sameSlot(entry.taxon, name, slot::genus))
-            categories.insert(entry.taxon.category());
-    return {categories.begin(), categories.end()};
+            ++names[entry.taxon.category()];
+    const auto most =
+        std::ranges::max_element(names, {}, [](const auto& count) { return count.second; });
+    return most == names.end() ? std::nullopt : std::optional(most->first);
 }
 
 DictionaryTaxon& TaxonWriter::add(const Taxon& name)
@@ -323,6 +327,6 @@ Outcome TaxonWriter::putNotes(long specId, const TaxonDetails& details)
         return checked(notes_, Outcome::Failed);
     std::string text = found == TableWriter::Found::Yes ? textOf(*stored[0]) : std::string();
     for (const std::string& note : details.notes)
-        addNote(text, storedText(note));
+        addNote(text, note);
     return checked(notes_, putRow(notes_, writing_, key, {textValue(text)}));
 }

@@ -45,9 +45,8 @@ public:
     DictionaryTaxon* find(const Taxon& name) const;
     /// All taxa of that name, whatever their category and author, the oldest first.
     std::vector<DictionaryTaxon*> named(const Taxon& name) const;
-    /// The categories that have a genus of that name, in the order of their mnemonics; one that is
-    /// not known is empty.
-    std::vector<std::string> categoriesOfGenus(const Taxon& name) const;
+    /// The category that has most names of that genus; none when the genus is not there.
+    std::optional<std::string> categoryOfGenus(const Taxon& name) const;
 
     /// Announces a name that is not there: it is found from now on and stored by `put`.
     DictionaryTaxon& add(const Taxon& name);

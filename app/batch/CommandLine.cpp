@@ -55,9 +55,9 @@ void addCreate(CLI::App& app, BatchOptions* options, std::string* file)
 void addImport(CLI::App& app, BatchOptions* options)
 {
     CLI::App* import = app.add_subcommand("import",
-        "Bring in wells.csv and samples.csv. Everything is checked first; rows that cannot be "
-        "stored are listed, the others are stored together. Importing the same files again changes "
-        "nothing");
+        "Bring in files such as wells.csv, samples.csv and taxa.csv. Everything is checked first; "
+        "rows that cannot be stored are listed, the others are stored together. Importing the same "
+        "files again changes nothing");
     import->add_option("INPUT", options->inputs, "Folders that hold the files, or the files")
         ->required();
     import->add_flag("--dry-run", options->dryRun, "Check and count, but store nothing");
@@ -73,6 +73,42 @@ void addSamples(CLI::App& app, BatchOptions* options, std::string* units)
         ->type_name("M|F")
         ->check(CLI::IsMember({"M", "F"}, CLI::ignore_case));
     addCommand(samples, BatchCommand::Samples, options);
+}
+
+void addTaxa(CLI::App& app, BatchOptions* options)
+{
+    TaxaQuery& query = options->taxa;
+    CLI::App* taxa = app.add_subcommand("taxa", "List the names of the dictionary");
+    taxa->add_option("PATTERN", query.patterns,
+        "Genus, species and subspecies, a subgenus in brackets; * stands for any letters, and what "
+        "is left out for any name");
+    taxa->add_option("--category", query.category, "Only of this category")->type_name("PATTERN");
+    taxa->add_option("--codes", query.codes, "Only with codes in this range, such as 100-200")
+        ->type_name("A-B");
+    taxa->add_flag(
+        "--synonyms", query.synonyms, "Names that another one is to be used for as well");
+    taxa->add_option("--scheme", query.scheme,
+            "Show the names to use of this synonymy scheme, synonyms included")
+        ->type_name("NAME");
+    addCommand(taxa, BatchCommand::Taxa, options);
+}
+
+void addTaxon(CLI::App& app, BatchOptions* options)
+{
+    CLI::App* taxon = app.add_subcommand("taxon",
+        "Show how a written name is read and whether it is in the dictionary; reading "
+        "needs no database");
+    taxon->add_option("TEXT", options->words, "The name, with its marks and author")->required();
+    addCommand(taxon, BatchCommand::Taxon, options);
+}
+
+void addAbundance(CLI::App& app, BatchOptions* options)
+{
+    CLI::App* abundance = app.add_subcommand("abundance", "Show the levels of an abundance scheme");
+    abundance->add_option("SCHEME", options->scheme, "Name or number of the scheme")->required();
+    abundance->add_option("COUNT|CODE", options->amount,
+        "A count to see its level, or a code to see the count that it stands for");
+    addCommand(abundance, BatchCommand::Abundance, options);
 }
 
 // What the declarations above cannot say.
@@ -91,7 +127,8 @@ void checkTogether(BatchOptions* options, const std::string& newFile)
         return;
     if (options->command == BatchCommand::Create && connection.databaseFile.empty())
         throw CLI::ValidationError("create", "name the file to create");
-    if (connection.databaseFile.empty() && connection.connectString.empty())
+    if (connection.databaseFile.empty() && connection.connectString.empty()
+        && options->command != BatchCommand::Taxon)
         throw CLI::ValidationError("no database", "name it with --database or --connect");
 }
 
@@ -110,6 +147,9 @@ std::optional<int> readCommandLine(int argc, const char* const* argv, BatchOptio
     addImport(app, options);
     addCommand(app.add_subcommand("wells", "List the wells"), BatchCommand::Wells, options);
     addSamples(app, options, &units);
+    addTaxa(app, options);
+    addTaxon(app, options);
+    addAbundance(app, options);
     // For the pictures in documents; no group hides it from the help.
     app.add_option("--screenshot", options->picture)->type_name("FILE.png")->group("");
     try {

@@ -1,7 +1,10 @@
 // app/batch/Commands.cpp
 #include "app/batch/Commands.h"
 
+#include "app/batch/AbundanceCommand.h"
+#include "app/batch/Failure.h"
 #include "app/batch/ImportConsole.h"
+#include "app/batch/TaxonCommands.h"
 #include "app/batch/TextTable.h"
 #include "app/shell/FindWell.h"
 #include "app/shell/OpenDatabase.h"
@@ -18,12 +21,6 @@
 namespace {
 
 using enum TextTable::Align;
-
-int failed(const std::string& why)
-{
-    std::cerr << "zonaris: " << why << '\n';
-    return kFailed;
-}
 
 class SessionEnd {
 public:
@@ -108,9 +105,12 @@ int listSamples(const BatchOptions& options)
 int runCommand(const BatchOptions& options)
 {
     const SessionEnd end;
-    const bool creates = options.command == BatchCommand::Create;
-    const std::string problem =
-        creates ? createDatabaseFile(options.connection) : openDatabase(options.connection);
+    const bool hasDatabase =
+        !options.connection.databaseFile.empty() || !options.connection.connectString.empty();
+    const std::string problem = options.command == BatchCommand::Create
+        ? createDatabaseFile(options.connection)
+        : hasDatabase ? openDatabase(options.connection)
+                      : "";
     if (!problem.empty())
         return failed(problem);
     switch (options.command) {
@@ -122,6 +122,12 @@ int runCommand(const BatchOptions& options)
         return listWells();
     case BatchCommand::Samples:
         return listSamples(options);
+    case BatchCommand::Taxa:
+        return listTaxa(options.taxa);
+    case BatchCommand::Taxon:
+        return showTaxon(options.words, hasDatabase);
+    case BatchCommand::Abundance:
+        return showAbundance(options.scheme, options.amount);
     case BatchCommand::None:
         break;
     }

@@ -2,6 +2,7 @@
 #include "app/import/Cells.h"
 #include "app/import/ImportContext.h"
 #include "app/import/Loader.h"
+#include "app/import/RowPlaces.h"
 #include "db/Units.h"
 #include "store/SampleWriter.h"
 #include "well/SampleType.h"
@@ -37,7 +38,7 @@ public:
         readGrid(cells);
         if (cells.report().refused())
             return true;
-        if (takeFileId(cells))
+        if (takeFileNumber(cells, samples::Id, context_.ids("samples", cells.file().set), &fileId_))
             refuseRepeated(cells);
         return true;
     }
@@ -136,26 +137,6 @@ private:
         };
         read(samples::GridX, &record_.gridX);
         read(samples::GridY, &record_.gridY);
-    }
-
-    // The number that the file gives the row must be its alone, or rows of other files that name it
-    // would not know which is meant.
-    bool takeFileId(CellReader& cells)
-    {
-        fileId_ = nullptr;
-        const std::string id(cells.raw(samples::Id));
-        if (id.empty())
-            return true;
-        const RowPlace place{&cells.file(), cells.line()};
-        FileIds& ids = context_.ids("samples", cells.file().set);
-        const auto [known, isNew] = ids.try_emplace(id, FileId{place, 0});
-        if (!isNew && known->second.place != place) {
-            cells.refuse(samples::Id,
-                "this number is in " + known->second.place.seenFrom(cells.file()) + " already");
-            return false;
-        }
-        fileId_ = &known->second;
-        return true;
     }
 
     // The number of a repeated row stands for the sample that is stored already.

@@ -4,9 +4,11 @@
 #include "app/import/RowPlaces.h"
 #include "app/import/TaxonName.h"
 #include "app/import/TaxonReport.h"
+#include "app/import/Words.h"
 
 #include "util/FixedText.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
@@ -95,29 +97,32 @@ public:
 
     Outcome store() override
     {
+        const auto& [name, preferred, adjustments, refusal] = *pair_;
         TaxonDetails details;
-        if (!reading_.exact)
+        const bool spelledSo =
+            withoutBlanks(composedName(name->taxon, true)) == withoutBlanks(name_);
+        if (!reading_.exact || (name == preferred && !spelledSo))
             details.notes.push_back(asPublished(name_));
-        if (!put(*pair_->preferred, {}) || !put(*pair_->name, details))
-            return Outcome::Failed;
-        if (pair_->name == pair_->preferred)
-            return Outcome::Same;
+        const Outcome stored = put(*name, details);
+        if (stored == Outcome::Failed || name == preferred
+            || put(*preferred, {}) == Outcome::Failed)
+            return stored == Outcome::Failed || name == preferred ? stored : Outcome::Failed;
         const Outcome outcome = dictionary_.synonymy.put(
-            schemeOfRow_, pair_->name->taxon.spec_id(), pair_->preferred->taxon.spec_id());
+            schemeOfRow_, name->taxon.spec_id(), preferred->taxon.spec_id());
         if (outcome == Outcome::Failed)
             error_ = dictionary_.synonymy.error();
         return outcome;
     }
 
 private:
-    bool put(DictionaryTaxon& entry, TaxonDetails details)
+    Outcome put(DictionaryTaxon& entry, TaxonDetails details)
     {
         details.author = entry.taxon.author();
         details.year = entry.taxon.year;
-        const bool good = dictionary_.put(entry, details) != Outcome::Failed;
-        if (!good)
+        const Outcome outcome = dictionary_.put(entry, details);
+        if (outcome == Outcome::Failed)
             error_ = dictionary_.error();
-        return good;
+        return outcome;
     }
 
     void readNames(CellReader& cells)
@@ -148,20 +153,25 @@ private:
     Pair decide(const CellReader& cells, const std::string& category)
     {
         Pair pair;
-        const Taxon preferred = storedName(preferred_, partsOfName(preferred_)).taxon;
         Candidates names{reading_.taxon, dictionary_.taxa.named(reading_.taxon)};
-        Candidates uses{preferred, dictionary_.taxa.named(preferred)};
-        if (DictionaryTaxon* numbered = preferredByNumber(cells, pair))
-            uses.entries = {numbered};
-        const std::string wanted = category.empty() ? categoryOf(names, uses, pair) : category;
+        Candidates uses{storedName(preferred_, partsOfName(preferred_)).taxon, {}};
+        uses.entries = dictionary_.taxa.named(uses.taxon);
+        const DictionaryTaxon* numbered = takeNumber(cells, names, uses, pair);
+        if (!numbered && preferred_.empty()) {
+            pair.refusal = "has no name to use, and no taxon of this set has the number " + number_;
+            return pair;
+        }
+        const std::string wanted = numbered ? numbered->taxon.category()
+            : category.empty()              ? categoryOf(names, uses, pair)
+                                            : category;
         // Only what the row does not tell is looked for elsewhere.
-        const bool anywhere = category.empty() && !isNumbered(cells);
+        const bool anywhere = category.empty() && !numbered;
         pair.name = names.in(wanted, anywhere);
         if (!pair.name)
             pair.name = add(names.taxon, wanted);
-        pair.preferred = isNumbered(cells) ? uses.entries.front() : uses.in(wanted, anywhere);
+        pair.preferred = uses.in(wanted, anywhere);
         if (!pair.preferred) {
-            pair.preferred = add(preferred, wanted);
+            pair.preferred = add(uses.taxon, wanted);
             pair.adjustments.push_back(
                 "was not in the dictionary; added as " + shown(*pair.preferred));
         }
@@ -169,19 +179,24 @@ private:
         return pair;
     }
 
-    bool isNumbered(const CellReader& cells) const
+    // The taxon whose number the row gives: the name to use, unless it is the recorded name and the
+    // row has another one to use. Null without a number that is known.
+    DictionaryTaxon* takeNumber(
+        const CellReader& cells, Candidates& names, Candidates& uses, Pair& pair) const
     {
-        return dictionary_.numbered.find(cells.file().set, number_) != nullptr;
-    }
-
-    // The name to use by its number in the set, which a row may give beside its text.
-    DictionaryTaxon* preferredByNumber(const CellReader& cells, Pair& pair) const
-    {
-        DictionaryTaxon* known = dictionary_.numbered.find(cells.file().set, number_);
-        if (known && !preferred_.empty() && !isCalled(*known))
+        DictionaryTaxon* numbered = dictionary_.numbered.find(cells.file().set, number_);
+        if (!numbered)
+            return nullptr;
+        const bool called = preferred_.empty() || isCalled(*numbered);
+        if (!called && std::ranges::find(names.entries, numbered) != names.entries.end()) {
+            names.entries = {numbered};
+            return numbered;
+        }
+        uses.entries = {numbered};
+        if (!called)
             pair.adjustments.push_back(
-                "number " + number_ + " is " + shown(*known) + ", which is taken");
-        return known;
+                "number " + number_ + " is " + shown(*numbered) + ", which is taken");
+        return numbered;
     }
 
     bool isCalled(const DictionaryTaxon& entry) const
@@ -201,11 +216,9 @@ private:
         const auto& some = uses.entries.empty() ? names.entries : uses.entries;
         if (!some.empty())
             return some.front()->taxon.category();
-        for (const Taxon* taxon : {&uses.taxon, &names.taxon}) {
-            const auto categories = dictionary_.taxa.categoriesOfGenus(*taxon);
-            if (!categories.empty())
-                return categories.front();
-        }
+        for (const Taxon* taxon : {&uses.taxon, &names.taxon})
+            if (const auto category = dictionary_.taxa.categoryOfGenus(*taxon))
+                return *category;
         pair.adjustments.emplace_back(
             "neither name nor genus is in the dictionary; stored without a category");
         return {};
@@ -221,7 +234,8 @@ private:
     void judge(const CellReader& cells, Pair& pair)
     {
         if (pair.name == pair.preferred) {
-            pair.adjustments.emplace_back("is the recorded name itself; nothing to store");
+            pair.adjustments.emplace_back(
+                "is the recorded name itself; as recorded it is kept in the notes");
             return;
         }
         const RowPlace place{&cells.file(), cells.line()};

@@ -84,9 +84,10 @@ private:
             return std::nullopt;
         }
         readAuthor(cells, parts);
+        const NameReading name = storedName(written_, parts);
         if (written_.empty())
             written_ = nameOfParts(parts);
-        return storedName(written_, parts);
+        return name;
     }
 
     void readAuthor(CellReader& cells, NameParts& parts)

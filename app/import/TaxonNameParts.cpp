@@ -99,19 +99,29 @@ private:
         }
     }
 
-    // Where the author begins, or in whose sense the name is meant.
+    // Whether a word begins with a person's name: "Bolli", "(Subbotina", "d'Orbigny", "de Man".
+    bool isPerson(std::size_t i) const
+    {
+        constexpr std::string_view kParticles[] = {"de", "del", "der", "di", "du", "van", "von"};
+        std::string_view word = words_[i];
+        if (std::ranges::find(kParticles, word) != std::end(kParticles))
+            return i + 1 < words_.size() && isPerson(i + 1);
+        if (word.starts_with('('))
+            word.remove_prefix(1);
+        const std::size_t apostrophe = word.find('\'');
+        const bool elided = apostrophe == 1 && word.size() > 2 && isCapital(word[2]);
+        return elided || (word.size() > 2 && isCapital(word[0]));
+    }
+
+    // Where the author begins, who is told by a year, or in whose sense the name is meant.
     std::size_t endOfName() const
     {
         std::size_t year = words_.size();
         while (year > next_ && yearIn(words_[year - 1]) == 0)
             --year;
         for (std::size_t i = next_ + 1; i < words_.size(); ++i) {
-            if (words_[i - 1] == "sensu" && markOf("sensu " + words_[i]).empty())
-                return i;
-            const std::string& word = words_[i];
-            const bool name =
-                isCapital(word[0]) || (word.size() > 1 && word[0] == '(' && isCapital(word[1]));
-            if (i < year && name && word.size() > 2)
+            const bool sense = words_[i - 1] == "sensu" && markOf("sensu " + words_[i]).empty();
+            if (sense || (i < year && isPerson(i)))
                 return i;
         }
         return words_.size();

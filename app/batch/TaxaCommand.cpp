@@ -1,0 +1,158 @@
+// app/batch/TaxaCommand.cpp
+#include "app/batch/Failure.h"
+#include "app/batch/TaxonCommands.h"
+#include "app/batch/TextTable.h"
+#include "app/import/TaxonName.h"
+#include "app/import/Words.h"
+#include "db/Cursor.h"
+#include "db/Literals.h"
+#include "db/Session.h"
+#include "store/Value.h"
+#include "taxonomy/TaxonList.h"
+#include "util/TextUtil.h"
+
+#include <algorithm>
+#include <charconv>
+#include <iostream>
+#include <memory>
+#include <optional>
+
+namespace {
+
+using enum TextTable::Align;
+
+constexpr const char* kAny = "%";
+
+// Both wildcards that people know; every kind of database takes this one from the core.
+std::string patternOf(std::string text)
+{
+    std::ranges::replace(text, '*', '%');
+    return text.empty() ? kAny : text;
+}
+
+/// The patterns of a search, in buffers that it may write to.
+struct Patterns {
+    std::string category = kAny, genus = kAny, subgenus = kAny, species = kAny, subspecies = kAny;
+};
+
+bool isInBrackets(const std::string& word)
+{
+    return word.size() > 1 && word.front() == '(' && word.back() == ')';
+}
+
+// None when there are more words than a name has parts.
+std::optional<Patterns> patternsOf(const TaxaQuery& query)
+{
+    Patterns patterns;
+    patterns.category = patternOf(query.category);
+    std::string* const parts[] = {&patterns.genus, &patterns.species, &patterns.subspecies};
+    std::size_t next = 0;
+    for (const std::string& argument : query.patterns) {
+        for (const std::string& word : wordsOf(argument)) {
+            if (isInBrackets(word))
+                patterns.subgenus = patternOf(word.substr(1, word.size() - 2));
+            else if (next < std::size(parts))
+                *parts[next++] = patternOf(word);
+            else
+                return std::nullopt;
+        }
+    }
+    return patterns;
+}
+
+struct CodeRange {
+    long from = 0, to = 0;
+};
+
+// "100-200" or "100"; none for any other text.
+std::optional<CodeRange> codesOf(std::string_view text)
+{
+    CodeRange codes;
+    if (text.empty())
+        return codes;
+    const char* const end = text.data() + text.size();
+    const auto first = std::from_chars(text.data(), end, codes.from);
+    if (first.ec != std::errc() || codes.from < 1)
+        return std::nullopt;
+    codes.to = codes.from;
+    if (first.ptr == end)
+        return codes;
+    const auto second = std::from_chars(first.ptr + 1, end, codes.to);
+    const bool good = *first.ptr == '-' && second.ec == std::errc() && second.ptr == end;
+    return good && codes.from <= codes.to ? std::optional(codes) : std::nullopt;
+}
+
+struct Scheme {
+    long id = 0;
+    std::string name;
+};
+
+// The scheme by its name or number; false with a text for the user.
+bool findScheme(const std::string& text, Scheme* out, std::string* error)
+{
+    const std::string select =
+        "SELECT sch_id, name FROM " + sql::table("SYNSCH") + " ORDER BY name";
+    Cursor rows(select);
+    if (!rows) {
+        *error = "The synonymy schemes could not be read: " + select + "\n" + dbErrorText();
+        return false;
+    }
+    std::string known;
+    while (rows.next()) {
+        const Scheme scheme{rows.integer(1), shownText(rows.text(2))};
+        if (compareIgnoringCase(scheme.name, text) == 0 || std::to_string(scheme.id) == text) {
+            *out = scheme;
+            return true;
+        }
+        known += (known.empty() ? "" : ", ") + scheme.name;
+    }
+    *error = "No synonymy scheme is called " + text + '.'
+        + (known.empty() ? " There are none." : " There are: " + known + '.');
+    return false;
+}
+
+std::string shownName(const Taxon& taxon) { return shownText(composedName(taxon, true)); }
+
+void write(TaxonList& taxa, bool withCode, const Scheme& scheme)
+{
+    std::vector<TextTable::Column> columns{{"number", Right}, {"category"}, {"name"}};
+    if (withCode)
+        columns.push_back({"code", Right});
+    if (scheme.id != 0)
+        columns.push_back({"name to use (" + scheme.name + ')'});
+    TextTable table(columns);
+    for (Taxon* taxon : taxa) {
+        std::vector<std::string> cells{
+            std::to_string(taxon->spec_id()), shownText(taxon->category()), shownName(*taxon)};
+        if (withCode)
+            cells.push_back(std::to_string(taxon->sipmCode(1)));
+        if (scheme.id != 0)
+            cells.push_back(taxon->preferred() ? shownName(*taxon->preferred()) : "");
+        table.add(std::move(cells));
+    }
+    table.write(std::cout);
+}
+
+} // namespace
+
+int listTaxa(const TaxaQuery& query)
+{
+    auto patterns = patternsOf(query);
+    if (!patterns)
+        return failed("A name has a genus, a species and a subspecies; quote what belongs together "
+                      "with * in it.");
+    const auto codes = codesOf(query.codes);
+    if (!codes)
+        return failed("--codes " + query.codes + ": a range such as 100-200 is meant.");
+    Scheme scheme;
+    std::string error;
+    if (!query.scheme.empty() && !findScheme(query.scheme, &scheme, &error))
+        return failed(error);
+    const std::unique_ptr<TaxonList> taxa(Taxon::searchTaxa(patterns->category.data(),
+        patterns->genus.data(), patterns->subgenus.data(), patterns->species.data(),
+        patterns->subspecies.data(), query.synonyms || scheme.id != 0, codes->from, codes->to));
+    if (scheme.id != 0)
+        taxa->loadPreferred(scheme.id, 0);
+    write(*taxa, !query.codes.empty(), scheme);
+    return kDone;
+}
