@@ -66,6 +66,8 @@ const CsvCase kFiles[] = {
         {"1:a|b", "2!byte 3 of line 2 (0xF8) is not UTF-8", "3:3|4"}},
     {"a bad byte in the second line of a row", "a\n\"x\n\xC3(\"\n",
         {"1:a", "2!byte 1 of line 3 (0xC3) is not UTF-8"}},
+    {"the first of two bad bytes is told", "a\n\"\xC3(\nx\xE9\"\n",
+        {"1:a", "2!byte 2 of line 2 (0xC3) is not UTF-8"}},
     {"a zero byte", "a\nx\0y\n"s, {"1:a", "2!byte 2 of line 2 (0x00) is not UTF-8"}},
     {"UTF-16",
         "\xFF\xFE"
