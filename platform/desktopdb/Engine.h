@@ -91,7 +91,8 @@ public:
     virtual bool rollback(Failure& failure) = 0;
     virtual bool inTransaction() const = 0;
 
-    /// A number that differs after every change of the tables, also by another process.
+    /// A number that differs after every change of the tables, also by another process. What is
+    /// compiled next is compiled for the tables as they are now.
     virtual std::int64_t schemaVersion() = 0;
     /// Tables and views, by name.
     virtual bool tables(std::vector<TableEntry>& out, Failure& failure) = 0;

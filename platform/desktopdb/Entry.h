@@ -21,18 +21,19 @@ try {
     return diagnostics.fail("HY000", e.what());
 }
 
-template <class Work> SQLRETURN onEnvironment(SQLHENV handle, const char* function, Work work)
+/// `counts`: whether the call counts for faults.
+template <class Work>
+SQLRETURN onEnvironment(SQLHENV handle, const char* function, Work work, bool counts = true)
 {
     Environment* environment = environments().find(handle);
     if (!environment)
         return SQL_INVALID_HANDLE;
     environment->diagnostics.clear();
-    if (faultStrikes(function, &environment->diagnostics))
+    if (counts && faultStrikes(function, &environment->diagnostics))
         return SQL_ERROR;
     return guarded(environment->diagnostics, [&] { return work(*environment); });
 }
 
-/// `counts`: whether the call counts for faults.
 template <class Work>
 SQLRETURN onConnection(SQLHDBC handle, const char* function, Work work, bool counts = true)
 {

@@ -217,7 +217,7 @@ SQLRETURN SQL_API SQLSetEnvAttr(SQLHENV handle, SQLINTEGER attribute, SQLPOINTER
 SQLRETURN SQL_API SQLGetEnvAttr(
     SQLHENV handle, SQLINTEGER attribute, SQLPOINTER value, SQLINTEGER, SQLINTEGER* length)
 {
-    return onEnvironment(handle, "SQLGetEnvAttr", [&](Environment& environment) -> SQLRETURN {
+    const auto answer = [&](Environment& environment) -> SQLRETURN {
         if (attribute != SQL_ATTR_ODBC_VERSION && attribute != SQL_ATTR_OUTPUT_NTS)
             return environment.diagnostics.fail("HY092", "the environment attribute is not known");
         if (value)
@@ -226,7 +226,9 @@ SQLRETURN SQL_API SQLGetEnvAttr(
         if (length)
             *length = sizeof(SQLINTEGER);
         return SQL_SUCCESS;
-    });
+    };
+    // The driver manager asks on its own when it connects.
+    return onEnvironment(handle, "SQLGetEnvAttr", answer, false);
 }
 
 SQLRETURN SQL_API SQLDriverConnect(SQLHDBC handle, SQLHWND, SQLCHAR* text, SQLSMALLINT length,

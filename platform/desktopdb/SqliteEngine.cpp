@@ -23,6 +23,7 @@ constexpr MessageState kMessageStates[] = {
     {"has no column named", "42S22"},
     {"duplicate column name", "42S21"},
     {"values for", "21S01"},
+    {"values were supplied", "21S01"},
     {"term does not match", "21S01"},
     {"already exists", "42S01"},
     {"there is already", "42S01"},
@@ -213,7 +214,7 @@ public:
     }
     ~SqliteEngine() override
     {
-        schemaVersion_.reset();
+        schemaQuery_.reset();
         sqlite3_close_v2(db_);
     }
     SqliteEngine(const SqliteEngine&) = delete;
@@ -261,14 +262,18 @@ public:
     std::int64_t schemaVersion() override
     {
         Failure ignored;
-        if (!schemaVersion_)
-            schemaVersion_ = prepare("PRAGMA schema_version", ignored);
+        if (!schemaQuery_)
+            schemaQuery_ = prepare("PRAGMA schema_version", ignored);
         std::int64_t version = -1;
-        if (schemaVersion_ && schemaVersion_->step(ignored) == Step::Row)
-            version = schemaVersion_->cell(0).integer;
-        if (schemaVersion_)
-            schemaVersion_->reset();
-        return version;
+        if (schemaQuery_ && schemaQuery_->step(ignored) == Step::Row)
+            version = schemaQuery_->cell(0).integer;
+        if (schemaQuery_)
+            schemaQuery_->reset();
+        // The engine compiles for the tables that it remembers and looks at the file only when a
+        // statement runs.
+        if (version != schemaVersion_)
+            run("SELECT 1 FROM sqlite_master LIMIT 1", ignored);
+        return schemaVersion_ = version;
     }
 
     bool tables(std::vector<TableEntry>& out, Failure& failure) override
@@ -342,7 +347,8 @@ private:
     }
 
     sqlite3* db_;
-    std::unique_ptr<EngineStatement> schemaVersion_;
+    std::unique_ptr<EngineStatement> schemaQuery_;
+    std::int64_t schemaVersion_ = -1;
 };
 
 bool checkFile(const OpenOptions& options, Failure& failure)
