@@ -156,14 +156,14 @@ const std::vector<Outcome> kParameterised{{"SQLAllocHandle", 0}, {"SQLPrepare", 
 
 const Operation kOperations[] = {
     {"connect", disconnect, [](TestDatabase& d) { return dbConnect(d.connectString().c_str()); },
-        {{"SQLAllocHandle", 0, {}, "default", 0, false}, {"SQLSetEnvAttr", 1}, {"SQLGetEnvAttr", 1},
+        {{"SQLAllocHandle", 0, {}, "default", 0, false},
             {"SQLAllocHandle", 0, {}, "default", 0, false},
             {"SQLDriverConnect", 0, {}, "default", 0, false}, {"SQLSetConnectAttr", 1},
             {"SQLGetInfo", 0}}},
     {"connect again", change, [](TestDatabase&) { return dbConnect(nullptr); },
         {{"SQLEndTran", 1}, {"SQLDisconnect", 1}, {"SQLFreeHandle", 1}, {"SQLFreeHandle", 1},
-            {"SQLAllocHandle", 0, {}, "default", 0, false}, {"SQLSetEnvAttr", 1},
-            {"SQLGetEnvAttr", 1}, {"SQLAllocHandle", 0, {}, "default", 0, false},
+            {"SQLAllocHandle", 0, {}, "default", 0, false},
+            {"SQLAllocHandle", 0, {}, "default", 0, false},
             {"SQLDriverConnect", 0, {}, "default", 0, false}, {"SQLSetConnectAttr", 1},
             {"SQLGetInfo", 0}}},
     {"disconnect", change, [](TestDatabase&) { return dbDisconnect(); },
@@ -226,8 +226,13 @@ class EachDriverCallFailing : public testing::TestWithParam<Operation> {};
 TEST_P(EachDriverCallFailing, LeavesWhatTheTableSays)
 {
     std::vector<Outcome> outcomes;
-    for (int n = 1; auto outcome = outcomeOf(GetParam(), n); ++n)
-        outcomes.push_back(*outcome);
+    for (int n = 1; auto outcome = outcomeOf(GetParam(), n); ++n) {
+        // The driver manager's own talk with the driver, as much of it as the driver takes part in.
+        if (outcome->call.ends_with("EnvAttr"))
+            EXPECT_EQ((Outcome{outcome->call, 1}), *outcome);
+        else
+            outcomes.push_back(*outcome);
+    }
     EXPECT_EQ(GetParam().outcomes, outcomes);
 }
 INSTANTIATE_TEST_SUITE_P(Session, EachDriverCallFailing, testing::ValuesIn(kOperations));
