@@ -115,8 +115,10 @@ TEST(Abns, LevelsAreTrimmedBeforeTheyAreCut)
     EXPECT_STREQ("a name of 25 letters, cut", scheme.nameAt(0));
     EXPECT_EQ(1, scheme.minAt(0)) << "of 16 bits";
     EXPECT_EQ(2, scheme.outputAt(0)) << "of 32 bits";
-    scheme.addLevel("B", "", 65537, 0);
+    scheme.addLevel(" B ", " name  ", 65537, 0);
     EXPECT_EQ(1, scheme.outputAt(1));
+    EXPECT_STREQ("B", scheme.abrAt(1));
+    EXPECT_STREQ("name", scheme.nameAt(1));
 }
 
 TEST(Abns, AThirteenthLevelIsRefused)
@@ -248,6 +250,7 @@ TEST_F(Schemes, AllInOrderOfTheirNames)
 {
     const StatementLog log;
     const std::unique_ptr<ItemList> all(allSchemes());
+    EXPECT_EQ(1, all->sorted) << "whatever is added later finds its place";
     Texts names;
     for (const Item* item : *all)
         names.push_back(std::to_string(item->id) + " " + item->text.str());

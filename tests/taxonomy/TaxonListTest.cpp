@@ -106,6 +106,11 @@ const ChangeCase kChanges[] = {
     {"insertSorted in front of its like",
         [](TaxonList& l) { l.insertSorted(named(13, "Aaa", "a"), 0); }},
     {"pop", [](TaxonList& l) { delete l.pop(); }},
+    {"pop and push",
+        [](TaxonList& l) {
+            delete l.pop();
+            l.push(named(20, "Beta", "a"));
+        }},
     {"remove",
         [](TaxonList& l) {
             Taxon* taxon = at(l, 1);

@@ -71,7 +71,7 @@ TEST_F(Readers, TwoTextsFindTheirTaxon)
     EXPECT_EQ(10, taxon.gen_id);
     EXPECT_EQ(100, taxon.spec_id());
     EXPECT_STREQ("FORAM", taxon.category());
-    Taxon("Zeta", "eta", "FORAM");
+    EXPECT_STREQ("NAN", Taxon("Zeta", "eta", "NAN ").category());
     EXPECT_THAT(screen.texts(), ElementsAre("Attempt to add genus in getAddGenus"));
 }
 
