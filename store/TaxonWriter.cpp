@@ -48,10 +48,14 @@ constexpr long kShownCodeSystem = 1;
 constexpr Column kNotes[] = {{"notes", Type::Text}};
 constexpr std::size_t kNotesCapacity = 240; // bytes
 
-// What two spellings of a slot have in common.
+// What two spellings of a slot have in common. Whether a comma parts author and year is a matter of
+// style.
 std::string slotKey(const Taxon& taxon, int number)
 {
-    return upperCased(storedText(taxon.field(number))) + '\n';
+    std::string key = upperCased(storedText(taxon.field(number)));
+    if (number == slot::author && key.ends_with(','))
+        key.pop_back();
+    return key + '\n';
 }
 
 std::string keyOfSlots(const Taxon& taxon, int first, int last)

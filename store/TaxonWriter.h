@@ -39,9 +39,9 @@ public:
     /// Reads the dictionary unless that is done. False: `error`; nothing else works then.
     bool load();
 
-    /// The taxon of that category and name: with the same author, else one that has none; for a
-    /// name without author any, the oldest first. Null without one. Pointers stay good as long as
-    /// the writer.
+    /// The taxon of that category and name: the one of the same author or, like the name, of none;
+    /// else, for a name without author, the oldest, and for one with an author the one without.
+    /// Null without one. Pointers stay good as long as the writer.
     DictionaryTaxon* find(const Taxon& name) const;
     /// All taxa of that name, whatever their category and author, the oldest first.
     std::vector<DictionaryTaxon*> named(const Taxon& name) const;

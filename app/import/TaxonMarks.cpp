@@ -91,3 +91,8 @@ std::string withQuoteMarks(std::string_view name)
         text.front() = text.back() = kQuoteMark;
     return text;
 }
+
+bool isUnnamedSpecies(std::string_view species)
+{
+    return species == "sp" || species.starts_with("sp.") || species.starts_with("sp ");
+}

@@ -26,3 +26,6 @@ bool accepts(int slotNumber, std::string_view word);
 /// A name in single quotation marks in double ones, which are the marks that slots know. The
 /// apostrophe of "d'orbignyi" is none.
 std::string withQuoteMarks(std::string_view name);
+
+/// Whether a species text is that of a species without a name ("sp. A"): what follows is its label.
+bool isUnnamedSpecies(std::string_view species);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <vector>
 
 namespace {
@@ -24,10 +25,10 @@ constexpr PartSlots kSubgenus{slot::preSubgenus, slot::subgenus, slot::postSubge
 constexpr PartSlots kSpecies{slot::preSpecies, slot::species, slot::postSpecies};
 constexpr PartSlots kSubspecies{slot::preSubspecies, slot::subspecies, slot::postSubspecies};
 
-/// Whether a species text is that of a species without a name: what follows is its label.
-bool isUnnamed(std::string_view species)
+bool isOneOf(std::string_view text, std::initializer_list<QualifierWord> words)
 {
-    return species == "sp" || species.starts_with("sp.") || species.starts_with("sp ");
+    return std::ranges::any_of(
+        words, [text](const QualifierWord& word) { return word.text == text; });
 }
 
 std::size_t count(const Draft& draft, SlotKind kind)
@@ -59,7 +60,7 @@ public:
         std::string species = parts.species;
         std::string further =
             joined(marked(kSubspecies, parts.subspeciesMark, parts.subspecies), parts.rest);
-        if (species.empty() || isUnnamed(species)) {
+        if (species.empty() || isUnnamedSpecies(species)) {
             species = joined(species, further);
             further.clear();
         }
@@ -135,8 +136,8 @@ private:
     {
         for (;;) {
             const Mark mark = trailingMark(name);
-            const bool ofLabel = part.name == slot::species && isUnnamed(name)
-                && mark.word != qualifier::question.text && mark.word != qualifier::quote.text;
+            const bool ofLabel = part.name == slot::species && isUnnamedSpecies(name)
+                && !isOneOf(mark.word, {qualifier::question, qualifier::quote, qualifier::sensu});
             if (mark.length == 0 || ofLabel || !accepts(part.post, mark.word))
                 return;
             if (mark.word == qualifier::quote.text && !isQuoting(draft_))

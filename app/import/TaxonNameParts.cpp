@@ -35,7 +35,11 @@ bool isSubgenus(std::string_view word)
         && std::all_of(word.begin() + 2, word.end() - 1, isSmall);
 }
 
-bool isUnnamed(std::string_view word) { return word == "sp" || word.starts_with("sp."); }
+/// A genus that the species brings along: "Alphina cf. A. betana".
+bool isGenusLetter(std::string_view word)
+{
+    return word.size() == 2 && isCapital(word[0]) && word[1] == '.';
+}
 
 /// Takes a name apart word by word.
 class Splitter {
@@ -104,10 +108,10 @@ private:
     {
         constexpr std::string_view kParticles[] = {"de", "del", "der", "di", "du", "van", "von"};
         std::string_view word = words_[i];
-        if (std::ranges::find(kParticles, word) != std::end(kParticles))
-            return i + 1 < words_.size() && isPerson(i + 1);
         if (word.starts_with('('))
             word.remove_prefix(1);
+        if (std::ranges::find(kParticles, word) != std::end(kParticles))
+            return i + 1 < words_.size() && isPerson(i + 1);
         const std::size_t apostrophe = word.find('\'');
         const bool elided = apostrophe == 1 && word.size() > 2 && isCapital(word[2]);
         return elided || (word.size() > 2 && isCapital(word[0]));
@@ -132,7 +136,11 @@ private:
         takeMarks(parts_.species);
         if (atEnd())
             return;
-        const bool unnamed = isUnnamed(words_[next_]);
+        if (isGenusLetter(words_[next_]))
+            take(parts_.species);
+        if (atEnd())
+            return;
+        const bool unnamed = isUnnamedSpecies(words_[next_]);
         if (words_[next_][0] != '(')
             take(parts_.species);
         while (unnamed && !atEnd())
