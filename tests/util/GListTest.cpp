@@ -2,11 +2,24 @@
 #include "util/GList.h"
 
 #include <algorithm>
-#include <ostream>
+#include <new>
 #include <string>
 #include <vector>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+namespace {
+bool memoryIsUsedUp = false;
+}
+
+// The allocation that reports failure by null, switched off on demand for the whole program. It
+// hands on to the throwing one, so that a sanitizer sees each block come and go through the same
+// pair.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    return memoryIsUsedUp ? nullptr : ::operator new(size);
+}
 
 namespace {
 
@@ -14,178 +27,118 @@ namespace {
 char alphabet[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
 char* item(char letter) { return &alphabet[letter - 'A']; }
 
-using Letters = TypedList<char>;
+struct Letters : TypedList<char> {
+    explicit Letters(const std::string& letters)
+    {
+        for (const char letter : letters)
+            put(letter);
+    }
+    void put(char letter) { push(item(letter)); }
+    void putBefore(char reference, char letter) { insert(item(reference), item(letter)); }
+    /// Resets and calls `next` until it returns `letter`.
+    Letters& to(char letter)
+    {
+        reset();
+        while (*next() != letter) {}
+        return *this;
+    }
+};
 
-void fill(Letters& list, const char* letters)
-{
-    for (; *letters; ++letters)
-        list.push(item(*letters));
-}
-
-/// Resets and calls `next` until it returns `letter`.
-void stepTo(Letters& list, char letter)
-{
-    list.reset();
-    while (*list.next() != letter) {}
-}
-
-std::string walked(const Letters& list, GList::Order order)
-{
-    std::string letters;
-    Letters::Walk walk(list, order);
-    while (const char* letter = walk.next())
-        letters += *letter;
-    return letters;
-}
-
-std::string restByNext(Letters& list)
+template <typename Source> std::string lettersOf(Source&& source)
 {
     std::string letters;
-    while (const char* letter = list.next())
+    while (const char* letter = source.next())
         letters += *letter;
     return letters;
 }
 
 struct ListCase {
-    const char* name;
-    const char* start;
+    const char* rule;
+    std::string start;
     void (*change)(Letters&);
-    const char* order; // front to back afterwards
-    const char* rest;  // what `next` gives afterwards
+    std::string order; // front to back afterwards
+    std::string rest;  // what `next` gives afterwards
 };
-void PrintTo(const ListCase& c, std::ostream* out) { *out << c.name; }
 
 const ListCase kCases[] = {
-    {"a new list has nothing", "", [](Letters&) {}, "", ""},
-    {"reset on an empty list", "", [](Letters& l) { l.reset(); }, "", ""},
     {"first push needs no reset", "A", [](Letters&) {}, "A", "A"},
-    {"push leaves the cursor", "ABC", [](Letters& l) { stepTo(l, 'A'), l.push(item('D')); }, "ABCD",
-        "BCD"},
-    {"push behind the end stays unseen", "A", [](Letters& l) { stepTo(l, 'A'), l.push(item('B')); },
-        "AB", ""},
-    {"push after the list was emptied", "A", [](Letters& l) { l.pop(), l.push(item('B')); }, "B",
-        "B"},
-    {"insert in the middle", "ABC", [](Letters& l) { l.insert(item('B'), item('X')); }, "AXBC",
-        "XBC"},
-    {"insert before the first", "AB", [](Letters& l) { l.insert(item('A'), item('X')); }, "XAB",
-        "XAB"},
-    {"insert before nothing appends", "AB",
-        [](Letters& l) { stepTo(l, 'A'), l.insert(nullptr, item('X')); }, "ABX", "BX"},
-    {"insert before a stranger appends", "AB", [](Letters& l) { l.insert(item('Z'), item('X')); },
-        "ABX", "ABX"},
-    {"insert before the last of equal items", "ABA",
-        [](Letters& l) { l.insert(item('A'), item('X')); }, "ABXA", "XA"},
-    {"insertAt the node of a walk", "ABC",
-        [](Letters& l) {
-            Letters::Walk walk(l, GList::Order::BackToFront);
-            while (*walk.next() != 'B') {}
-            l.insertAt(walk.node(), item('X'));
-        },
-        "AXBC", "XBC"},
-    {"insertAt the end of a walk appends", "AB",
-        [](Letters& l) {
-            Letters::Walk walk(l);
-            while (walk.next()) {}
-            l.insertAt(walk.node(), item('X'));
-        },
-        "ABX", "ABX"},
-    {"pop off the back", "ABC", [](Letters& l) { EXPECT_EQ(item('C'), l.pop()); }, "AB", "AB"},
+    {"push leaves the cursor", "ABC", [](Letters& l) { l.to('A').put('D'); }, "ABCD", "BCD"},
+    {"push behind the end stays unseen", "A", [](Letters& l) { l.to('A').put('B'); }, "AB", ""},
+    {"push after the list was emptied", "A", [](Letters& l) { l.pop(), l.put('B'); }, "B", "B"},
+    {"insert before the first", "AB", [](Letters& l) { l.putBefore('A', 'X'); }, "XAB", "XAB"},
+    {"insert before a stranger", "AB", [](Letters& l) { l.putBefore('Z', 'X'); }, "ABX", "ABX"},
+    {"insert before equals", "ABA", [](Letters& l) { l.putBefore('A', 'X'); }, "ABXA", "XA"},
+    {"pop", "AB", [](Letters& l) { EXPECT_EQ(item('B'), l.pop()); }, "A", "A"},
     {"pop of an empty list", "", [](Letters& l) { EXPECT_EQ(nullptr, l.pop()); }, "", ""},
-    {"pop under the cursor ends iteration", "AB", [](Letters& l) { stepTo(l, 'A'), l.pop(); }, "A",
-        ""},
-    {"remove after pop of the same item", "AB",
-        [](Letters& l) { stepTo(l, 'B'), l.pop(), l.remove(); }, "A", ""},
-    {"remove goes on behind the item", "ABC", [](Letters& l) { stepTo(l, 'B'), l.remove(); }, "AC",
-        "C"},
-    {"remove of the first", "ABC", [](Letters& l) { stepTo(l, 'A'), l.remove(); }, "BC", "BC"},
-    {"remove of the last", "ABC", [](Letters& l) { stepTo(l, 'C'), l.remove(), l.push(item('D')); },
-        "ABD", ""},
-    {"remove without an item", "AB", [](Letters& l) { l.remove(); }, "AB", "AB"},
-    {"second remove has no item", "ABC", [](Letters& l) { stepTo(l, 'B'), l.remove(), l.remove(); },
-        "AC", "C"},
-    {"remove under a reset cursor", "ABC",
-        [](Letters& l) { stepTo(l, 'A'), l.reset(), l.remove(); }, "BC", "BC"},
-    {"moveUp in the middle", "ABC", [](Letters& l) { stepTo(l, 'B'), l.moveUp(); }, "BAC", "AC"},
-    {"moveUp of the last", "ABC", [](Letters& l) { stepTo(l, 'C'), l.moveUp(); }, "ACB", "B"},
-    {"moveUp of the first stays", "AB", [](Letters& l) { stepTo(l, 'A'), l.moveUp(); }, "AB", "AB"},
-    {"moveUp of nothing", "", [](Letters& l) { l.moveUp(); }, "", ""},
+    {"pop under the cursor", "AB", [](Letters& l) { l.to('A').pop(); }, "A", ""},
+    {"remove after pop", "AB", [](Letters& l) { l.to('B').pop(), l.remove(); }, "A", ""},
+    {"remove goes on behind", "ABC", [](Letters& l) { l.to('B').remove(); }, "AC", "C"},
+    {"remove of the first", "ABC", [](Letters& l) { l.to('A').remove(); }, "BC", "BC"},
+    {"remove twice", "ABC", [](Letters& l) { l.to('B').remove(), l.remove(); }, "AC", "C"},
+    {"remove after reset", "ABC", [](Letters& l) { l.to('A').reset()->remove(); }, "BC", "BC"},
+    {"moveUp in the middle", "ABC", [](Letters& l) { l.to('B').moveUp(); }, "BAC", "AC"},
+    {"moveUp of the last", "ABC", [](Letters& l) { l.to('C').moveUp(); }, "ACB", "B"},
+    {"moveUp of the first stays", "AB", [](Letters& l) { l.to('A').moveUp(); }, "AB", "AB"},
     {"moveUp before any next", "AB", [](Letters& l) { l.moveUp(); }, "AB", ""},
     {"moveUp after remove takes the older neighbour", "ABCD",
-        [](Letters& l) { stepTo(l, 'C'), l.remove(), l.moveUp(); }, "BAD", "AD"},
-    {"swapUp at the back", "AB", [](Letters& l) { stepTo(l, 'A'), l.swapUp(), l.push(item('C')); },
-        "BAC", "AC"},
-    {"swapUp at the front", "AB", [](Letters& l) { l.swapUp(); }, "AB", "AB"},
+        [](Letters& l) { l.to('C').remove(), l.moveUp(); }, "BAD", "AD"},
+    {"swapUp at the back", "AB", [](Letters& l) { l.to('A').swapUp(), l.put('C'); }, "BAC", "AC"},
 };
 
-class GListOperation : public testing::TestWithParam<ListCase> {};
-
-TEST_P(GListOperation, LeavesOrderAndCursor)
+TEST(GList, OperationsLeaveOrderAndCursor)
 {
-    const ListCase& row = GetParam();
-    Letters list;
-    fill(list, row.start);
-    const auto revision = list.revision();
-    row.change(list);
-    const std::string order = row.order;
-    EXPECT_EQ(order != row.start, list.revision() != revision);
-    EXPECT_EQ(order, walked(list, GList::Order::FrontToBack));
-    EXPECT_EQ(std::string(order.rbegin(), order.rend()), walked(list, GList::Order::BackToFront));
-    EXPECT_EQ(static_cast<int>(order.size()), list.count());
-    EXPECT_EQ(order.empty(), list.isEmpty());
-    EXPECT_EQ(row.rest, restByNext(list));
-}
-INSTANTIATE_TEST_SUITE_P(Rules, GListOperation, testing::ValuesIn(kCases));
-
-TEST(GList, BubblePassesSort)
-{
-    Letters list;
-    fill(list, "DBCA");
-    const char* last = nullptr;
-    list.reset();
-    while (const char* letter = list.next()) {
-        if (last && *letter < *last) {
-            list.moveUp();
-            list.reset();
-            last = nullptr;
-        } else {
-            last = letter;
-        }
+    for (const auto& [rule, start, change, order, rest] : kCases) {
+        SCOPED_TRACE(rule);
+        Letters list(start);
+        const auto revision = list.revision();
+        change(list);
+        EXPECT_EQ(order != start, list.revision() != revision);
+        EXPECT_EQ(order, lettersOf(Letters::Walk(list)));
+        EXPECT_EQ(std::string(order.rbegin(), order.rend()),
+            lettersOf(Letters::Walk(list, GList::Order::BackToFront)));
+        EXPECT_EQ(static_cast<int>(order.size()), list.count());
+        EXPECT_EQ(order.empty(), list.isEmpty());
+        EXPECT_EQ(rest, lettersOf(list));
     }
-    EXPECT_EQ("ABCD", walked(list, GList::Order::FrontToBack));
 }
 
 TEST(GList, WalkKeepsTheCursorAndSurvivesRemovalBehindIt)
 {
-    Letters list;
-    fill(list, "ABC");
-    stepTo(list, 'A');
+    Letters list("ABC");
     Letters::Walk walk(list);
     walk.next();
-    list.remove();
+    list.to('A').remove();
     EXPECT_EQ(item('B'), walk.next());
-    EXPECT_EQ(item('B'), list.next());
-}
-
-TEST(GList, IteratorSurvivesRemovalOfItsNeighbours)
-{
-    Letters list;
-    fill(list, "ABC");
-    auto at = list.begin();
-    stepTo(list, 'B');
-    list.remove();
-    EXPECT_EQ('C', **++at);
-    EXPECT_EQ(list.end(), ++at);
+    list.insertAt(walk.node(), item('X'));
+    EXPECT_EQ("XBC", lettersOf(list));
+    EXPECT_EQ("C", lettersOf(walk));
+    EXPECT_EQ(nullptr, walk.node());
 }
 
 TEST(GList, IteratorServesTheStandardAlgorithms)
 {
     static_assert(std::forward_iterator<Letters::iterator>);
-    Letters list;
-    fill(list, "ABC");
-    const auto found = std::ranges::find(list, item('B'));
-    list.insertAt(found.node(), item('X'));
-    EXPECT_EQ((std::vector<char*>{item('A'), item('X'), item('B'), item('C')}),
+    Letters list("ABC");
+    auto at = std::ranges::find(list, item('B'));
+    list.insertAt(at.node(), item('X'));
+    list.to('C').remove();
+    EXPECT_EQ(list.end(), ++at);
+    EXPECT_EQ((std::vector<char*>{item('A'), item('X'), item('B')}),
         std::vector<char*>(list.begin(), list.end()));
+}
+
+TEST(GListDeathTest, EndsTheProcessWithoutMemory)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    Letters list("A");
+    const auto insertWithoutMemory = [&list](char* reference) {
+        memoryIsUsedUp = true;
+        list.insert(reference, item('B'));
+    };
+    EXPECT_EXIT(insertWithoutMemory(nullptr), testing::ExitedWithCode(1),
+        testing::Eq("\n Out of memory in GList::push"));
+    EXPECT_EXIT(insertWithoutMemory(item('A')), testing::ExitedWithCode(1),
+        testing::Eq("\n Out of memory in GList::insert"));
 }
 
 } // namespace
