@@ -4,7 +4,9 @@
 #include "platform/desktopdb/TestControl.h"
 #include "tests/support/OdbcConnection.h"
 
+#include <cstdint>
 #include <string>
+#include <vector>
 
 /// The embedded driver's own switches for tests: its attributes, set for the whole process.
 namespace driver_control {
@@ -19,5 +21,8 @@ OdbcConnection& connection();
 
 /// Records from now on and for the rest of the process; returns the recorder's file.
 const std::string& record();
+
+/// The statements in a recorder's file from byte `start` on, as the driver received them.
+std::vector<std::string> recorded(const std::string& file, std::uintmax_t start = 0);
 
 } // namespace driver_control

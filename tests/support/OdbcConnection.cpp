@@ -76,6 +76,32 @@ std::vector<OdbcConnection::Row> OdbcConnection::run(const std::string& sql)
     return rows;
 }
 
+std::vector<std::string> OdbcConnection::lines(const std::string& sql)
+{
+    std::vector<std::string> lines;
+    for (const Row& row : run(sql)) {
+        std::string line;
+        for (const std::string& cell : row)
+            line += (&cell == &row.front() ? "" : "|") + cell;
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::string OdbcConnection::prepare(const std::string& sql)
+{
+    SQLHSTMT statement = SQL_NULL_HSTMT;
+    SQLAllocHandle(SQL_HANDLE_STMT, connection_, &statement);
+    SQLRETURN result = SQLPrepare(statement, bytes(sql), SQL_NTS);
+    SQLSMALLINT columns = 0;
+    // A driver may put the work off until somebody asks for the columns.
+    if (SQL_SUCCEEDED(result))
+        result = SQLNumResultCols(statement, &columns);
+    const std::string failure = succeeded(result) ? "" : message(SQL_HANDLE_STMT, statement);
+    SQLFreeHandle(SQL_HANDLE_STMT, statement);
+    return failure;
+}
+
 OdbcConnection::Row OdbcConnection::currentRow(SQLHSTMT statement, SQLSMALLINT columns) const
 {
     Row row;

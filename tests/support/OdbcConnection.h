@@ -18,6 +18,11 @@ public:
     using Row = std::vector<std::string>;
     /// Runs a statement; its rows as texts, NULL as "NULL".
     std::vector<Row> run(const std::string& sql);
+    /// The rows of a statement, columns joined with "|".
+    std::vector<std::string> lines(const std::string& sql);
+    /// Prepares a statement without running it; the driver's message, empty when it could be. Does
+    /// not fail the test.
+    std::string prepare(const std::string& sql);
 
     /// The driver's attributes of its own.
     void setAttribute(SQLINTEGER attribute, const std::string& text);

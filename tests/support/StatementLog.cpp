@@ -36,8 +36,13 @@ StatementLog::StatementLog()
 
 std::vector<std::string> StatementLog::statements() const
 {
-    std::ifstream in(file_);
-    in.seekg(static_cast<std::streamoff>(start_));
+    return driver_control::recorded(file_, start_);
+}
+
+std::vector<std::string> driver_control::recorded(const std::string& file, std::uintmax_t start)
+{
+    std::ifstream in(file);
+    in.seekg(static_cast<std::streamoff>(start));
     std::vector<std::string> statements;
     for (std::string line; std::getline(in, line);)
         statements.push_back(unescaped(line));

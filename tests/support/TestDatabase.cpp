@@ -4,10 +4,9 @@
 #include "db/Cursor.h"
 #include "db/ErrorReporter.h"
 #include "db/Session.h"
-#include "schema/Schema.h"
 #include "tests/support/DriverControl.h"
-#include "tests/support/OdbcConnection.h"
 #include "tests/support/Restore.h"
+#include "tests/support/SchemaDatabase.h"
 #include "tests/support/Workspace.h"
 
 #include <cstdlib>
@@ -24,20 +23,13 @@ TestSettings settingsFromEnvironment()
     return {kind ? std::atoi(kind) : 0, prefix ? prefix : ""};
 }
 
-std::string connectStringOf(const std::string& file)
-{
-    return driver_control::connectString(file, testSettings().kind == 2 ? "Oracle" : "Access");
-}
+const char* dialect() { return testSettings().kind == 2 ? "Oracle" : "Access"; }
 
 // Made once per process and copied for each test.
 std::string makeTemplate()
 {
     const std::string file = workspace::newFile("schema.db");
-    OdbcConnection made(connectStringOf(file));
-    made.begin();
-    for (const std::string_view statement : schemaStatements())
-        made.run(std::string(statement));
-    made.commit();
+    SchemaDatabase made(dialect(), file);
     return file;
 }
 
@@ -76,7 +68,7 @@ struct TestDatabase::State {
 TestDatabase::TestDatabase(Contents contents)
     : state_(nullptr)
     , file_(newDatabase(contents))
-    , connectString_(connectStringOf(file_))
+    , connectString_(driver_control::connectString(file_, dialect()))
 {
     if (std::getenv("ZONARIS_TEST_RECORD"))
         driver_control::record();
@@ -106,12 +98,5 @@ std::string TestDatabase::value(const std::string& sql)
 
 std::vector<std::string> TestDatabase::rows(const std::string& sql)
 {
-    std::vector<std::string> lines;
-    for (const OdbcConnection::Row& row : state_->beside.run(sql)) {
-        std::string line;
-        for (const std::string& cell : row)
-            line += (&cell == &row.front() ? "" : "|") + cell;
-        lines.push_back(line);
-    }
-    return lines;
+    return state_->beside.lines(sql);
 }
