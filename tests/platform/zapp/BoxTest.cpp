@@ -1,77 +1,127 @@
 // tests/platform/zapp/BoxTest.cpp
-#include "tests/platform/zapp/Desk.h"
+#include "platform/zapp/ConsoleBoxes.h"
+#include "platform/zapp/qt/QtBoxes.h"
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-#include <tuple>
+#include <QApplication>
+#include <QComboBox>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QListWidget>
+
+#include <variant>
 
 namespace {
 
-using Step = std::function<void(DeskBox&)>;
+class Screen : public testing::Test {
+    int argc_ = 1;
+    char name_[5] = "test";
+    char* argv_[2] = {name_, nullptr};
+    QApplication application_{argc_, argv_};
+};
 
-Step add(const char* text)
-{
-    return [text](DeskBox& b) { b.box->add(text); };
-}
+template <typename Box> struct OnConsole {
+    Box box;
+    std::vector<std::string> rows() const { return box.rows(); }
+};
 
-Step select(int row)
-{
-    return [row](DeskBox& b) { b.box->selection(row); };
-}
+template <typename Box, typename Widget> struct OnScreen {
+    Widget widget;
+    Box box{widget};
+    std::vector<std::string> rows() const
+    {
+        std::vector<std::string> texts;
+        for (int row = 0; row < widget.count(); ++row)
+            texts.push_back(widget.model()->index(row, 0).data().toString().toStdString());
+        return texts;
+    }
+};
 
-const Step empty = [](DeskBox& b) { b.empty(); };
+using ScreenList = OnScreen<QtListBox, QListWidget>;
+using ScreenCombo = OnScreen<QtComboBox, QComboBox>;
+
+struct Empty {};
+void apply(const Empty&, zListBoxBase& box) { box.clear(); }
+void apply(const Empty&, zComboBoxBase& box) { box.reset(); }
+void apply(const char* text, zBox& box) { box.add(text); }
+void apply(int row, zBox& box) { box.selection(row); }
 
 struct BoxCase {
     const char* rule;
-    std::vector<Step> steps;
+    std::vector<std::variant<const char*, int, Empty>> steps; ///< texts to add, rows to select
     std::vector<std::string> rows;
     int selection;
 };
 
-void PrintTo(const BoxCase& c, std::ostream* out) { *out << c.rule; }
-
 const BoxCase kCases[] = {
-    {"nothing is selected in an empty box", {}, {}, -1},
-    {"nor by filling it", {add("a"), add("b")}, {"a", "b"}, -1},
-    {"rows stay in order of arrival", {add("b"), add("A"), add("a"), add("b")},
-        {"b", "A", "a", "b"}, -1},
-    {"the first row reads back", {add("a"), add("b"), select(0)}, {"a", "b"}, 0},
-    {"the last row reads back", {add("a"), add("b"), select(1)}, {"a", "b"}, 1},
-    {"the later choice counts", {add("a"), add("b"), select(1), select(0)}, {"a", "b"}, 0},
-    {"-1 clears", {add("a"), add("b"), select(1), select(-1)}, {"a", "b"}, -1},
-    {"one behind the last is ignored", {add("a"), select(0), select(1)}, {"a"}, 0},
-    {"one below -1 is ignored", {add("a"), select(0), select(-2)}, {"a"}, 0},
-    {"row 0 of an empty box is ignored", {select(0)}, {}, -1},
-    {"and does not wait for a row", {select(0), add("a")}, {"a"}, -1},
-    {"adding keeps the selection", {add("a"), add("b"), select(1), add("c")}, {"a", "b", "c"}, 1},
-    {"adding keeps a cleared selection", {add("a"), select(0), select(-1), add("b")}, {"a", "b"},
-        -1},
-    {"an emptied box has no selection", {add("a"), select(0), empty}, {}, -1},
-    {"nor after it is filled again", {add("a"), select(0), empty, add("b")}, {"b"}, -1},
-    {"texts are no markup", {add("a < b <b>x</b>"), add("&c && d")}, {"a < b <b>x</b>", "&c && d"},
-        -1},
-    {"texts are UTF-8", {add("Paläozän \xCE\xB1")}, {"Paläozän \xCE\xB1"}, -1},
-    {"null is an empty text", {add(nullptr), add("")}, {"", ""}, -1},
+    {"filling selects nothing, rows stay in order", {"b", "A", "b"}, {"b", "A", "b"}, -1},
+    {"the first row reads back", {"a", "b", 0}, {"a", "b"}, 0},
+    {"the later choice counts", {"a", "b", 0, 1}, {"a", "b"}, 1},
+    {"-1 clears", {"a", 0, -1}, {"a"}, -1},
+    {"one behind the last is ignored", {"a", 0, 1}, {"a"}, 0},
+    {"one below -1 is ignored", {"a", 0, -2}, {"a"}, 0},
+    {"row 0 of an empty box does not wait for it", {0, "a"}, {"a"}, -1},
+    {"adding keeps the selection", {"a", "b", 1, "c"}, {"a", "b", "c"}, 1},
+    {"adding keeps a cleared selection", {"a", 0, -1, "b"}, {"a", "b"}, -1},
+    {"an emptied box has no selection", {"a", 0, Empty()}, {}, -1},
+    {"nor after it is filled again", {"a", 0, Empty(), "b"}, {"b"}, -1},
+    {"texts are no markup", {"a < b <b>x</b>", "&c && d"}, {"a < b <b>x</b>", "&c && d"}, -1},
+    {"texts are UTF-8, null is an empty one", {"Paläozän", nullptr}, {"Paläozän", ""}, -1},
 };
 
-class BoxRules : public testing::TestWithParam<std::tuple<BoxKind, BoxCase>> {};
+template <typename Kind> class Boxes : public Screen {
+};
+using Kinds =
+    testing::Types<OnConsole<ConsoleListBox>, OnConsole<ConsoleComboBox>, ScreenList, ScreenCombo>;
+TYPED_TEST_SUITE(Boxes, Kinds);
 
-TEST_P(BoxRules, Hold)
+TYPED_TEST(Boxes, KeepTheRules)
 {
-    const auto& [kind, rule] = GetParam();
-    DeskWithApp with;
-    DeskBox box = with.desk->makeBox(kind);
-    for (const Step& step : rule.steps)
-        step(box);
-    EXPECT_EQ(box.rows(), rule.rows);
-    EXPECT_EQ(box.box->count(), static_cast<int>(rule.rows.size()));
-    EXPECT_EQ(box.box->selection(), rule.selection);
+    for (const BoxCase& c : kCases) {
+        SCOPED_TRACE(c.rule);
+        TypeParam on;
+        for (const auto& step : c.steps)
+            std::visit([&on](const auto& value) { apply(value, on.box); }, step);
+        EXPECT_EQ(on.rows(), c.rows);
+        EXPECT_EQ(on.box.count(), static_cast<int>(c.rows.size()));
+        EXPECT_EQ(on.box.selection(), c.selection);
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    List, BoxRules, testing::Combine(testing::Values(BoxKind::List), testing::ValuesIn(kCases)));
-INSTANTIATE_TEST_SUITE_P(
-    Combo, BoxRules, testing::Combine(testing::Values(BoxKind::Combo), testing::ValuesIn(kCases)));
+TEST_F(Screen, ListHoldsOneChoiceUnsorted)
+{
+    QListWidget list;
+    list.setSortingEnabled(true);
+    list.setSelectionMode(QAbstractItemView::MultiSelection);
+    QtListBox box(list);
+    box.add("b");
+    box.add("a");
+    QFocusEvent focus(QEvent::FocusIn);
+    QApplication::sendEvent(&list, &focus);
+    ASSERT_EQ(list.currentRow(), 0) << "the widget no longer does what the box must not";
+    EXPECT_EQ(box.selection(), -1);
+    box.selection(0);
+    list.selectAll();
+    EXPECT_EQ(list.selectedItems(), QList{list.item(0)});
+    EXPECT_EQ(list.item(0)->text(), "b");
+}
+
+TEST_F(Screen, ComboTellsOfChoicesAlone)
+{
+    ScreenCombo on;
+    int choices = 0;
+    QObject::connect(&on.widget, &QComboBox::currentIndexChanged, [&](int) { ++choices; });
+    on.box.add("a");
+    on.box.add("b");
+    EXPECT_EQ(choices, 0) << "filled";
+    on.box.selection(1);
+    EXPECT_EQ(choices, 1) << "chosen";
+    on.widget.setEditable(true);
+    on.widget.setEditText("c");
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QApplication::sendEvent(&on.widget, &enter);
+    EXPECT_EQ(on.box.count(), 2) << "typed text becomes no row";
+}
 
 } // namespace

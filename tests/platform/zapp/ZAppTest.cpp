@@ -4,59 +4,47 @@
 
 #include <gmock/gmock.h>
 
-#include <string>
-
 namespace {
 
 using testing::ElementsAre;
-
-TEST(ApplicationObject, IsPublishedWhileItLives)
-{
-    EXPECT_EQ(_app, nullptr);
-    {
-        zApp app(nullptr, nullptr, nullptr, 0);
-        EXPECT_EQ(_app, &app);
-    }
-    EXPECT_EQ(_app, nullptr);
-}
 
 TEST(ApplicationObject, HandsOverToItsToolkit)
 {
     Recorder recorder;
     {
-        const Serving serving(&recorder);
-        zApp app(nullptr, nullptr, "", 1);
+        zApp app(nullptr, nullptr, nullptr, 0);
+        EXPECT_EQ(_app, &app);
+        EXPECT_STREQ(app.commandLine(), "");
         app.initIntPack();
         app.initIntPack();
         app.go();
         app.quit();
         app.go();
         zMessage(app.rootWindow(), "a", "c", MB_OK);
-        int window = 0;
-        app.setRootWindow(reinterpret_cast<zWindow*>(&window));
+        app.setRootWindow(reinterpret_cast<zWindow*>(&app));
         zMessage(app.rootWindow(), "b", "c", MB_ICONHAND);
     }
+    EXPECT_EQ(_app, nullptr);
     EXPECT_THAT(recorder.steps,
-        ElementsAre("start", "prepare", "loop", "quit", "0 a", "16 b with a window", "stop"));
+        ElementsAre("start outside", "prepare", "loop", "quit", "a", "b with a parent of a window",
+            "stop outside"));
 }
 
 TEST(ApplicationObject, StopsTheToolkitThatItStarted)
 {
     Recorder first;
-    Recorder second;
-    const Serving serving(&first);
     {
         zApp app(nullptr, nullptr, "", 1);
-        EXPECT_EQ(zUseToolkit(&second), &first);
+        Recorder second;
         app.quit();
+        EXPECT_EQ(zUseToolkit(&second), &second);
+        EXPECT_THAT(second.steps, ElementsAre("quit"));
     }
-    EXPECT_THAT(first.steps, ElementsAre("start", "stop"));
-    EXPECT_THAT(second.steps, ElementsAre("quit"));
+    EXPECT_THAT(first.steps, ElementsAre("start outside", "stop outside"));
 }
 
 TEST(Console, ServesWithoutAChoice)
 {
-    const Serving serving(nullptr);
     testing::internal::CaptureStderr();
     zMessage(nullptr, "no such well", "Zonaris Error", MB_ICONHAND);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Zonaris Error: no such well\n");
@@ -65,30 +53,20 @@ TEST(Console, ServesWithoutAChoice)
 TEST(Console, LoopEndsWhenNothingIsLeftToRun)
 {
     ConsoleToolkit console;
-    const Serving serving(&console);
-    zApp app(nullptr, nullptr, "", 1);
     std::string ran;
-    app.go();
-    console.post([&] {
-        ran += 'a';
-        console.post([&] { ran += 'c'; });
-    });
-    console.post([&] { ran += 'b'; });
-    app.go();
-    EXPECT_EQ(ran, "abc");
-}
-
-TEST(Console, TasksBehindAQuitDoNotRun)
-{
-    ConsoleToolkit console;
-    bool ran = false;
-    console.post([&] { console.quitLoop(); });
-    console.post([&] { ran = true; });
+    const auto task = [&](char name) { return [&ran, name] { ran += name; }; };
     console.runLoop();
-    EXPECT_FALSE(ran);
+    console.post([&] { console.post(task('b')); });
+    console.post(task('a'));
+    console.runLoop();
+    EXPECT_EQ(ran, "ab");
+    console.post([&] { console.quitLoop(); });
+    console.post(task('c'));
+    console.runLoop();
+    EXPECT_EQ(ran, "ab") << "behind a quit";
     console.stop();
     console.runLoop();
-    EXPECT_FALSE(ran) << "kept beyond the stop";
+    EXPECT_EQ(ran, "ab") << "kept beyond the stop";
 }
 
 } // namespace
