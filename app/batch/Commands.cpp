@@ -54,7 +54,7 @@ int listWells()
     const std::string select = "SELECT v.well_id, w.well_code, w.well_name, w.type, w.units, "
                                "w.operator, w.field, w.country FROM "
         + sql::table("WELLS") + " w, " + sql::table("WELL_IDENT")
-        + " v WHERE v.well_code=w.well_code ORDER BY w.well_code";
+        + " v WHERE v.well_code=w.well_code ORDER BY w.well_name, w.well_code";
     Cursor rows(select);
     if (!rows)
         return failed("The wells could not be read: " + select + "\n" + dbErrorText());
