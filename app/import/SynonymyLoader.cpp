@@ -167,8 +167,12 @@ private:
         // Only what the row does not tell is looked for elsewhere.
         const bool anywhere = category.empty() && !numbered;
         pair.name = names.in(wanted, anywhere);
-        if (!pair.name)
+        if (!pair.name) {
             pair.name = add(names.taxon, wanted);
+            // It may be the name to use as well.
+            if (!numbered)
+                uses.entries = dictionary_.taxa.named(uses.taxon);
+        }
         pair.preferred = uses.in(wanted, anywhere);
         if (!pair.preferred) {
             pair.preferred = add(uses.taxon, wanted);
