@@ -1,6 +1,7 @@
 // tests/app/window/ProgramTest.cpp
 #include "app/OpenMainWindow.h"
 
+#include "tests/support/Restore.h"
 #include "tests/support/TestDatabase.h"
 #include "tests/support/Workspace.h"
 
@@ -24,13 +25,26 @@ void closeWhatIsOpen()
     if (const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()))
         seen.push_back(box->text().toStdString());
     for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && qobject_cast<QMainWindow*>(window))
+        if (!window->isVisible())
+            continue;
+        if (qobject_cast<QMainWindow*>(window))
             seen.push_back(window->windowTitle().toStdString());
         window->close();
     }
 }
 
-void expectUser() { QTimer::singleShot(0, closeWhatIsOpen); }
+bool userThere = false;
+
+/// A user in front of every application object, who closes whatever is open, sooner or later.
+void seatUser()
+{
+    if (!userThere)
+        return;
+    auto* user = new QTimer(qApp);
+    user->callOnTimeout(closeWhatIsOpen);
+    user->start(20); // ms
+}
+Q_COREAPP_STARTUP_FUNCTION(seatUser)
 
 class Program : public testing::Test {
 protected:
@@ -48,7 +62,7 @@ protected:
 
 TEST_F(Program, EndsWithTheWindow)
 {
-    qAddPreRoutine(expectUser);
+    const Restore<bool> user(userThere, true);
     EXPECT_EQ(openMainWindow(start, settings(db.file())), 0);
     EXPECT_THAT(seen, ElementsAre(HasSubstr(" – Zonaris")));
     seen.clear();
