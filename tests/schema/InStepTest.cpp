@@ -144,6 +144,7 @@ const DerivedCase kDerived[] = {
     {"unchanged words", {detail("7,99,'N','DEF'"), changed(kOthers)}, {"99|N|DEF"}},
     {"an emptied identifier", {kDetail10, changed("analy_id=NULL")}, {"NULL|NULL|NULL"}},
     {"an emptied one among all", {kDetail10, changed("analy_id=NULL," + kOthers)}, {"12|N|DEF"}},
+    {"unknown and emptied", {detail("7,99,'M','ABC'"), changed("analy_id=NULL")}, {"NULL|M|ABC"}},
     {"an emptied analyst", {kDetail10, changed("analyst=NULL")}, {"NULL|M|NULL"}},
     {"another well", {kDetail10, changed("well_id=8")}, {"10|P|DEF"}},
     {"words before their analysis", {detail("7,NULL,'P','ABC'"), kAnalysis13}, {"13|P|ABC"}},
