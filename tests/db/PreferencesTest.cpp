@@ -6,7 +6,6 @@
 #include "tests/support/MessageLog.h"
 #include "tests/support/Restore.h"
 
-#include <ostream>
 #include <string>
 #include <vector>
 
@@ -22,8 +21,6 @@ using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr int kUser = 42;
-
 class Preferences : public testing::Test {
 protected:
     void store(const std::string& key, const std::string& literal)
@@ -31,88 +28,52 @@ protected:
         database.run("INSERT INTO PREF_USER (user_id, pref_key, pref_value) VALUES (42, '" + key
             + "', " + literal + ")");
     }
-    std::vector<std::string> stored()
-    {
-        dbCommit();
-        return database.rows("SELECT * FROM PREF_USER ORDER BY user_id, pref_key");
-    }
     TestDatabase database;
     MessageLog messages;
 };
 
-TEST_F(Preferences, AMissingSettingLeavesTheDefault)
+// What each reader finds, and what it leaves in a variable of the caller.
+std::string read(int user, const char* key)
 {
-    store("OTHER", "'7'");
-    char text[20] = "Top of ";
-    std::string whole = "Base of ";
-    int integer = 1;
-    float number = 2.5F;
-    EXPECT_EQ(0, prefGet(kUser, "TOPPFX", text, sizeof text));
-    EXPECT_EQ(0, prefGet(kUser, "BASEPFX", whole));
-    EXPECT_EQ(0, prefGetInt(kUser, "MFSPLIT", &integer));
-    EXPECT_EQ(0, prefGetInt(43, "OTHER", &integer)) << "another user's";
-    EXPECT_EQ(0, prefGetFloat(kUser, "SCALE", &number));
-    EXPECT_STREQ("Top of ", text);
-    EXPECT_EQ("Base of ", whole);
-    EXPECT_EQ(1, integer);
-    EXPECT_EQ(2.5F, number);
+    char buffer[300] = "kept";
+    std::string whole = "kept";
+    int integer = 77;
+    float number = 0.5F;
+    std::string found;
+    for (const int result : {prefGet(user, key, buffer), prefGet(user, key, whole),
+             prefGetInt(user, key, &integer), prefGetFloat(user, key, &number)})
+        found += std::to_string(result);
+    EXPECT_EQ(whole, buffer);
+    return found + " '" + whole + "' " + std::to_string(integer) + " " + std::to_string(number);
+}
+
+TEST_F(Preferences, AreReadOrTheDefaultIsLeft)
+{
+    const std::string missing = "0000 'kept' 77 0.500000";
+    EXPECT_EQ(missing, read(42, "KEY"));
+    for (const auto& [literal, expected] :
+        std::vector<std::pair<const char*, const char*>>{{"NULL", "1100 '' 77 0.500000"},
+            {"'Top of '", "1111 'Top of' 77 0.500000"}, {"' 3.75'", "1111 ' 3.75' 3 3.750000"},
+            {"'+4x'", "1111 '+4x' 4 4.000000"}, {"'-1e2'", "1111 '-1e2' -1 -100.000000"}}) {
+        database.run("DELETE FROM PREF_USER");
+        store("KEY", literal);
+        EXPECT_EQ(expected, read(42, "KEY")) << literal;
+    }
+    EXPECT_EQ(missing, read(43, "KEY")) << "another user's";
     EXPECT_THAT(messages.texts(), IsEmpty());
 }
 
 TEST_F(Preferences, WritingTwiceGivesOneRow)
 {
-    EXPECT_EQ(1, prefPut(kUser, "TOPPFX", "Top of "));
-    EXPECT_EQ(1, prefPut(43, "TOPPFX", "theirs"));
-    EXPECT_EQ(1, prefPut(kUser, "TOPPFX", "Upper "));
+    EXPECT_EQ(1, prefPut(42, "A", "Top of "));
+    EXPECT_EQ(1, prefPut(43, "A", "theirs"));
+    EXPECT_EQ(1, prefPut(42, "A", "Upper "));
+    EXPECT_EQ(1, prefPutInt(42, "B", -1));
+    EXPECT_EQ(1, prefPutFloat(42, "C", 1.5F));
     EXPECT_EQ("0", database.value("SELECT COUNT(*) FROM PREF_USER")) << "nothing is committed";
-    EXPECT_THAT(stored(), ElementsAre("42|TOPPFX|Upper ", "43|TOPPFX|theirs"));
-}
-
-TEST_F(Preferences, NumbersAreStoredAsPrinted)
-{
-    EXPECT_EQ(1, prefPutInt(kUser, "A", 25));
-    EXPECT_EQ(1, prefPutInt(kUser, "B", -1));
-    EXPECT_EQ(1, prefPutFloat(kUser, "C", 1.5F));
-    EXPECT_THAT(stored(), ElementsAre("42|A|25", "42|B|-1", "42|C|1.500000"));
-    int integer = 0;
-    float number = 0;
-    EXPECT_EQ(1, prefGetInt(kUser, "B", &integer));
-    EXPECT_EQ(1, prefGetFloat(kUser, "C", &number));
-    EXPECT_EQ(-1, integer);
-    EXPECT_EQ(1.5F, number);
-}
-
-TEST_F(Preferences, StoredTexts)
-{
-    const struct {
-        const char *literal, *text;
-        int numberFound, integer; // 77 and 0.5: left as they were
-        float number;
-    } rows[] = {
-        {"NULL", "", 0, 77, 0.5F},
-        {"'Top of '", "Top of", 1, 77, 0.5F},
-        {"'12'", "12", 1, 12, 12.0F},
-        {"' 3.75'", " 3.75", 1, 3, 3.75F},
-        {"'+4x'", "+4x", 1, 4, 4.0F},
-        {"'1e2'", "1e2", 1, 1, 100.0F},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.literal);
-        database.run("DELETE FROM PREF_USER");
-        store("KEY", row.literal);
-        char text[300] = "untouched";
-        std::string whole = "untouched";
-        int integer = 77;
-        float number = 0.5F;
-        EXPECT_EQ(1, prefGet(kUser, "KEY", text));
-        EXPECT_STREQ(row.text, text);
-        EXPECT_EQ(1, prefGet(kUser, "KEY", whole));
-        EXPECT_EQ(row.text, whole);
-        EXPECT_EQ(row.numberFound, prefGetInt(kUser, "KEY", &integer));
-        EXPECT_EQ(row.integer, integer);
-        EXPECT_EQ(row.numberFound, prefGetFloat(kUser, "KEY", &number));
-        EXPECT_EQ(row.number, number);
-    }
+    dbCommit();
+    EXPECT_THAT(database.rows("SELECT * FROM PREF_USER ORDER BY user_id, pref_key"),
+        ElementsAre("42|A|Upper ", "42|B|-1", "42|C|1.500000", "43|A|theirs"));
 }
 
 TEST_F(Preferences, CopiesOnlyWhatTheBufferHolds)
@@ -120,74 +81,67 @@ TEST_F(Preferences, CopiesOnlyWhatTheBufferHolds)
     const std::string start(18, 'x');
     store("KEY", "'" + start + "\u00F8" + std::string(400, 'y') + "'");
     char small[20];
-    EXPECT_EQ(1, prefGet(kUser, "KEY", small, sizeof small));
+    EXPECT_EQ(1, prefGet(42, "KEY", small, sizeof small));
     EXPECT_EQ(start, small) << "the character did not fit whole";
     std::string large(300, '#');
-    EXPECT_EQ(1, prefGet(kUser, "KEY", large.data()));
+    EXPECT_EQ(1, prefGet(42, "KEY", large.data()));
     EXPECT_EQ(299U, std::string(large.c_str()).size());
     std::string whole;
-    EXPECT_EQ(1, prefGet(kUser, "KEY", whole));
+    EXPECT_EQ(1, prefGet(42, "KEY", whole));
     EXPECT_EQ(420U, whole.size());
 }
 
 // Every operation, and which check speaks in it when the key is long: r reading, w writing.
 struct Operation {
-    const char* name;
     int (*run)(const char* key);
-    const char* checks;
+    std::string checks;
 };
-void PrintTo(const Operation& o, std::ostream* out) { *out << o.name; }
 
 int getText(const char* key)
 {
     char value[300];
-    return prefGet(kUser, key, value);
+    return prefGet(42, key, value);
 }
 int getString(const char* key)
 {
     std::string value;
-    return prefGet(kUser, key, value);
+    return prefGet(42, key, value);
 }
 template <typename T, int (*get)(int, const char*, T*)> int getNumber(const char* key)
 {
     T value = 0;
-    return get(kUser, key, &value);
+    return get(42, key, &value);
 }
 
-const Operation kOperations[] = {{"prefGet into a buffer", getText, "r"},
-    {"prefGet into a string", getString, "r"}, {"prefGetInt", getNumber<int, prefGetInt>, "rr"},
-    {"prefGetFloat", getNumber<float, prefGetFloat>, "rr"},
-    {"prefPut", [](const char* key) { return prefPut(kUser, key, "1"); }, "wr"},
-    {"prefPutInt", [](const char* key) { return prefPutInt(kUser, key, 1); }, "wwr"},
-    {"prefPutFloat", [](const char* key) { return prefPutFloat(kUser, key, 1); }, "wwr"}};
-
-class EveryOperation : public Preferences, public testing::WithParamInterface<Operation> {};
-
-TEST_P(EveryOperation, ReportsALongKeyAndGoesOn)
+TEST_F(Preferences, ALongKeyIsReportedAndAFatalErrorStopsEveryOperation)
 {
+    const Operation operations[] = {{getText, "r"}, {getString, "r"},
+        {getNumber<int, prefGetInt>, "rr"}, {getNumber<float, prefGetFloat>, "rr"},
+        {[](const char* key) { return prefPut(42, key, "1"); }, "wr"},
+        {[](const char* key) { return prefPutInt(42, key, 1); }, "wwr"},
+        {[](const char* key) { return prefPutFloat(42, key, 1); }, "wwr"}};
     store("ABCDEFGHIJ", "'5'");
     store("ABCDEFGHIJK", "'5'");
-    EXPECT_EQ(1, GetParam().run("ABCDEFGHIJ"));
-    EXPECT_THAT(messages.texts(), IsEmpty()) << "ten are allowed";
-    EXPECT_EQ(1, GetParam().run("ABCDEFGHIJK"));
-    std::vector<std::string> expected;
-    for (const char check : std::string(GetParam().checks))
-        expected.push_back(check == 'w'
-                ? "Attempt to put value into PREF_USER over 10 chars: ABCDEFGHIJK"
-                : "Attempt to select value from PREF_USER over 10 chars: ABCDEFGHIJK");
-    EXPECT_EQ(expected, messages.texts());
+    for (const Operation& operation : operations) {
+        messages.clear();
+        EXPECT_EQ(1, operation.run("ABCDEFGHIJ"));
+        EXPECT_THAT(messages.texts(), IsEmpty()) << "ten are allowed";
+        EXPECT_EQ(1, operation.run("ABCDEFGHIJK"));
+        std::string checks;
+        for (const std::string& text : messages.texts())
+            checks += text == "Attempt to put value into PREF_USER over 10 chars: ABCDEFGHIJK" ? "w"
+                : text == "Attempt to select value from PREF_USER over 10 chars: ABCDEFGHIJK"
+                ? "r"
+                : text;
+        EXPECT_EQ(operation.checks, checks);
+        const Restore fatal(fatalError, 1);
+        messages.clear();
+        const StatementLog log;
+        EXPECT_EQ(0, operation.run("ABCDEFGHIJK"));
+        EXPECT_THAT(log.statements(), IsEmpty());
+        EXPECT_THAT(messages.texts(), IsEmpty());
+    }
 }
-
-TEST_P(EveryOperation, DoesNothingWhileTheProcessIsToEnd)
-{
-    store("ABCDEFGHIJK", "'5'");
-    const Restore fatal(fatalError, 1);
-    const StatementLog log;
-    EXPECT_EQ(0, GetParam().run("ABCDEFGHIJK"));
-    EXPECT_THAT(log.statements(), IsEmpty());
-    EXPECT_THAT(messages.texts(), IsEmpty());
-}
-INSTANTIATE_TEST_SUITE_P(Preferences, EveryOperation, testing::ValuesIn(kOperations));
 
 const std::string kWhere = " WHERE pref_key='KEY' AND user_id=42";
 
@@ -196,16 +150,14 @@ TEST_F(Preferences, FailuresWithoutTheTable)
     database.run("DROP TABLE PREF_USER");
     const std::string select = "SELECT pref_value FROM " + sql::table("PREF_USER") + kWhere;
     const auto selecting = StartsWith("Error selecting from PREF_USER table: ");
-    EXPECT_EQ(0, getText("KEY"));
-    EXPECT_THAT(messages.texts(), ElementsAre(select, selecting));
-    messages.clear();
     EXPECT_EQ(0, getString("KEY"));
     EXPECT_THAT(messages.texts(),
         ElementsAre(select, AllOf(HasSubstr("PREF_USER"), Not(StartsWith("Error selecting")))));
     messages.clear();
-    EXPECT_EQ(0, prefPut(kUser, "KEY", "x")) << "a failed look-up goes on to insert";
+    EXPECT_EQ(0, getText("KEY"));
+    EXPECT_EQ(0, prefPut(42, "KEY", "x")) << "a failed look-up goes on to insert";
     EXPECT_THAT(messages.texts(),
-        ElementsAre(select, selecting,
+        ElementsAre(select, selecting, select, selecting,
             "INSERT INTO " + sql::table("PREF_USER")
                 + " (user_id, pref_key, pref_value ) VALUES (42,'KEY','x')",
             StartsWith("Error inserting into PREF_USER table: ")));
@@ -216,8 +168,7 @@ TEST_F(Preferences, AFailedUpdateDoesNotInsert)
 {
     store("KEY", "'old'");
     const DriverFault fault(2, "SQLExecDirect", DriverFault::Once, "HY000", "no update");
-    EXPECT_EQ(0, prefPut(kUser, "KEY", ""));
-    EXPECT_TRUE(fault.fired());
+    EXPECT_EQ(0, prefPut(42, "KEY", ""));
     EXPECT_THAT(messages.texts(),
         ElementsAre("UPDATE " + sql::table("PREF_USER") + " SET pref_value=NULL" + kWhere,
             AllOf(StartsWith("Error updating PREF_USER table: "), HasSubstr("no update"))));
