@@ -167,7 +167,7 @@ bool TaxonWriter::loadGenera()
         for (int number = slot::category; number <= slot::postSubgenus; ++number)
             genus.setField(
                 number, std::string_view(textOf(values[static_cast<std::size_t>(number) + 1])));
-        genusOf_.try_emplace(genusKey(genus), genus.gen_id);
+        generaByName_.try_emplace(genusKey(genus), genus);
     });
     return good || failed(select.sql() + ": " + select.error());
 }
@@ -229,16 +229,19 @@ std::optional<std::string> TaxonWriter::categoryOfGenus(const Taxon& name) const
 
 DictionaryTaxon& TaxonWriter::add(const Taxon& name)
 {
-    DictionaryTaxon& entry = enter(name);
-    entry.taxon.setSpecId(0);
-    entry.taxon.gen_id = 0;
-    return entry;
+    const Taxon& genus = generaByName_.try_emplace(genusKey(name), name).first->second;
+    Taxon taxon = name;
+    for (int number = slot::category; number <= slot::postSubgenus; ++number)
+        taxon.setField(number, genus.field(number));
+    taxon.setSpecId(0);
+    taxon.gen_id = 0;
+    return enter(taxon);
 }
 
 bool TaxonWriter::ensureGenus(Taxon& taxon)
 {
-    const auto [known, isNew] = genusOf_.try_emplace(genusKey(taxon), 0);
-    if (isNew) {
+    Taxon& genus = generaByName_[genusKey(taxon)];
+    if (genus.gen_id == 0) {
         const std::optional<long> id = genusIds_.next();
         if (!id)
             return failed(genusIds_.error());
@@ -246,9 +249,9 @@ bool TaxonWriter::ensureGenus(Taxon& taxon)
         setSlots(row, taxon, slot::category, slot::postSubgenus);
         if (isWriting() && !genera_.insert({Value(*id)}, row))
             return failed(genera_.error());
-        known->second = *id;
+        genus.gen_id = *id;
     }
-    taxon.gen_id = known->second;
+    taxon.gen_id = genus.gen_id;
     return true;
 }
 

@@ -48,7 +48,8 @@ public:
     /// The category that has most names of that genus; none when the genus is not there.
     std::optional<std::string> categoryOfGenus(const Taxon& name) const;
 
-    /// Announces a name that is not there: it is found from now on and stored by `put`.
+    /// Announces a name that is not there: it is found from now on and stored by `put`. A genus that
+    /// is there keeps its spelling.
     DictionaryTaxon& add(const Taxon& name);
     /// Stores an announced name, or what the details change of a stored one.
     Outcome put(DictionaryTaxon& entry, const TaxonDetails& details);
@@ -78,8 +79,8 @@ private:
     IdAllocator speciesIds_;
     std::deque<DictionaryTaxon> taxa_;
     std::unordered_map<std::string, std::vector<DictionaryTaxon*>> byName_;
-    std::unordered_map<std::string, long> genusOf_; // by category and genus slots
-    std::unordered_map<long, Taxon> genusRows_;     // while loading
+    std::unordered_map<std::string, Taxon> generaByName_; // by category and genus slots
+    std::unordered_map<long, Taxon> genusRows_;           // while loading
     bool loaded_ = false;
     std::string error_;
 };

@@ -45,6 +45,13 @@ std::string plainName(std::string text)
     return text;
 }
 
+bool isSpelled(const Taxon& taxon, const std::string& written)
+{
+    const std::string wanted = withoutBlanks(written);
+    return withoutBlanks(composedName(taxon)) == wanted
+        || withoutBlanks(composedName(taxon, true)) == wanted;
+}
+
 std::string shown(const DictionaryTaxon& entry)
 {
     const std::string category = entry.taxon.category();
@@ -99,9 +106,7 @@ public:
     {
         const auto& [name, preferred, adjustments, refusal] = *pair_;
         TaxonDetails details;
-        const bool spelledSo =
-            withoutBlanks(composedName(name->taxon, true)) == withoutBlanks(name_);
-        if (!reading_.exact || (name == preferred && !spelledSo))
+        if (!isSpelled(name->taxon, name_))
             details.notes.push_back(asPublished(name_));
         const Outcome stored = put(*name, details);
         if (stored == Outcome::Failed || name == preferred

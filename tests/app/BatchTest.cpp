@@ -1,12 +1,7 @@
 // tests/app/BatchTest.cpp
-#include "tests/app/Files.h"
+#include "tests/app/Program.h"
 
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <ostream>
-
-#include <sys/wait.h>
 
 #include <gmock/gmock.h>
 
@@ -14,32 +9,6 @@ namespace {
 
 using testing::HasSubstr;
 using testing::StartsWith;
-
-std::string contentOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-// The program itself, run in a shell with what stands behind its name.
-class Program : public testing::Test {
-protected:
-    int run(const std::string& arguments)
-    {
-        const auto outFile = folder.path() / "out.txt";
-        const auto errFile = folder.path() / "err.txt";
-        const std::string command = std::string("cd ") + folder.path().string()
-            + " && " ZONARIS_PROGRAM " " + arguments + " >out.txt 2>err.txt";
-        const int status = std::system(command.c_str());
-        out = contentOf(outFile);
-        err = contentOf(errFile);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
-    const Folder folder;
-    std::string out;
-    std::string err;
-};
 
 TEST_F(Program, CreatesImportsAndLists)
 {
@@ -70,9 +39,9 @@ TEST_F(Program, CreatesImportsAndLists)
         EXPECT_EQ(0, run(std::string("--database a.zdb wells --kind ") + kind));
         EXPECT_EQ(
             "number  code   name            type  units  operator   field      country\n"
-            "     1  SYN-1  \u00D8rnefjell 1     W     M      Synthetic  \u00D8RNEFJELL  NOWHERE\n"
             "     2  SYN-2  Cape Dor\u00E9 2     W     F      Synthetic  CAPE DOR\u00C9  NOWHERE\n"
-            "     3  SYN-3  S\u00F6der\u00E5s quarry  O     M                            NOWHERE\n",
+            "     3  SYN-3  S\u00F6der\u00E5s quarry  O     M                            NOWHERE\n"
+            "     1  SYN-1  \u00D8rnefjell 1     W     M      Synthetic  \u00D8RNEFJELL  NOWHERE\n",
             out);
         EXPECT_EQ(0, run(std::string("--database a.zdb samples 3 --kind ") + kind));
         EXPECT_THAT(out,

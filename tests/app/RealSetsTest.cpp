@@ -1,55 +1,16 @@
 // tests/app/RealSetsTest.cpp
 #include "tests/app/ImportRun.h"
+#include "tests/app/RealData.h"
 
 #include "util/TextUtil.h"
 
 #include <cmath>
-#include <fstream>
-#include <map>
 #include <ostream>
 #include <sstream>
 
 #include <gmock/gmock.h>
 
 namespace {
-
-// The real data lies beside the repository where it may be used, never in it.
-const std::filesystem::path kData = std::filesystem::path(ZONARIS_SOURCE_DIR) / "../shared/data";
-
-using Record = std::map<std::string, std::string>;
-
-// A reader of its own, so that the comparison does not lean on what it checks.
-std::vector<std::string> splitRow(const std::string& line)
-{
-    std::vector<std::string> fields(1);
-    bool quoted = false;
-    for (const char c : line) {
-        if (c == '"')
-            quoted = !quoted;
-        else if (c == ',' && !quoted)
-            fields.emplace_back();
-        else if (c != '\r')
-            fields.back() += c;
-    }
-    return fields;
-}
-
-std::vector<Record> recordsOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file);
-    std::string line;
-    std::getline(stream, line);
-    const auto header = splitRow(line);
-    std::vector<Record> records;
-    while (std::getline(stream, line)) {
-        const auto fields = splitRow(line);
-        Record record;
-        for (std::size_t i = 0; i < header.size() && i < fields.size(); ++i)
-            record[header[i]] = fields[i];
-        records.push_back(record);
-    }
-    return records;
-}
 
 std::vector<std::string> cellsOf(const std::string& row)
 {

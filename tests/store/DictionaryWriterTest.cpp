@@ -19,8 +19,9 @@ using testing::IsEmpty;
 
 Taxon named(const char* category, const char* genus, const char* species, const char* author = "")
 {
-    return taxonOf({{slot::category, category}, {slot::genus, genus}, {slot::species, species},
-        {slot::author, author}});
+    Taxon taxon = taxonOf(std::string("c:") + category + "|g:" + genus + "|s:" + species);
+    taxon.setField(slot::author, author);
+    return taxon;
 }
 
 std::vector<std::string> idsOf(const std::vector<DictionaryTaxon*>& entries)
@@ -78,14 +79,8 @@ const FindCase kFound[] = {
     {"another category is another name", named("NANNO", "Alphina", "alba"), 20},
     {"no category is a category", named("", "Alphina", "alba"), 0},
     {"a genus without species", named("", "Etina", ""), 22},
-    {"a qualifier makes another name",
-        taxonOf({{slot::category, "FORAM"}, {slot::genus, "Alphina"}, {slot::postGenus, "?"},
-            {slot::species, "alba"}}),
-        12},
-    {"a subspecies makes another name",
-        taxonOf({{slot::category, "FORAM"}, {slot::genus, "Alphina"}, {slot::species, "alba"},
-            {slot::subspecies, "minor"}}),
-        0},
+    {"a qualifier makes another name", taxonOf("c:FORAM|g:Alphina|g>:?|s:alba"), 12},
+    {"a subspecies makes another name", taxonOf("c:FORAM|g:Alphina|s:alba|b:minor"), 0},
 };
 
 TEST_F(Names, AreFoundByTheirSlots)
@@ -105,9 +100,8 @@ TEST_F(Names, AreFoundByTheirSlots)
 
 TEST_F(Names, ComeInOnceForTheCoreToFind)
 {
-    Taxon taxon = taxonOf({{slot::category, "FORAM"}, {slot::preGenus, "cf."},
-        {slot::genus, "Ørnella"}, {slot::subgenus, "Deltina"}, {slot::species, "d'orbignyi"},
-        {slot::postSpecies, "?"}, {slot::preSubspecies, "var."}, {slot::subspecies, "a|b"}});
+    Taxon taxon = taxonOf("c:FORAM|<g:cf.|g:Ørnella|u:Deltina|s:d'orbignyi|s>:?|<b:var.");
+    taxon.setField(slot::subspecies, "a|b");
     TaxonDetails details{"d'Orbigny", 1826, "AB:1", 77, {"it's a note"}};
     taxon.setField(slot::author, "d'Orbigny");
     EXPECT_EQ(Outcome::New, put(taxon, details, Writing::Check));
@@ -136,6 +130,11 @@ TEST_F(Names, ShareTheirGenus)
 {
     EXPECT_EQ(Outcome::New, put(named("FORAM", "alphina", "nova"), {}));
     EXPECT_EQ("10", db.value("SELECT gen_id FROM SPECIES WHERE species = 'nova'"));
+    TaxonWriter checking(Writing::Check);
+    ASSERT_TRUE(checking.load());
+    EXPECT_STREQ("Alphina", checking.add(named("FORAM", "ALPHINA", "x")).taxon.genus());
+    checking.add(named("FORAM", "Iotana", "x"));
+    EXPECT_STREQ("Iotana", checking.add(named("FORAM", "iotana", "y")).taxon.genus());
     Transaction transaction;
     TaxonWriter writer(Writing::Write);
     ASSERT_TRUE(writer.load());
