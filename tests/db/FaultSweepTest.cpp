@@ -94,36 +94,6 @@ long readColumns(TestDatabase&)
     return integer * 10000 + number * 100 + text * 10 + letter;
 }
 
-long typeOfColumn(TestDatabase&)
-{
-    char word[20] = "";
-    int precision = 0;
-    const int found = columnType("NO_SUCH_SCRATCH", "a", word, &precision);
-    return found * 1000 + (word == std::string("text") ? 100 : 0) + precision;
-}
-
-long columnCount(TestDatabase&)
-{
-    char *names[5] = {}, *types[5] = {};
-    short precisions[5] = {};
-    int count = -1;
-    listColumns("NO_SUCH_SCRATCH", names, types, precisions, &count);
-    for (int i = 0; i < count; ++i) {
-        delete[] names[i];
-        delete[] types[i];
-    }
-    return count;
-}
-
-long tableCount(TestDatabase&)
-{
-    char* names[5] = {};
-    const int count = listTables(names, 5);
-    for (int i = 0; i < count; ++i)
-        delete[] names[i];
-    return count;
-}
-
 std::vector<std::string> nextIdOutcomes()
 {
     const std::string select =
@@ -181,15 +151,6 @@ const Operation kOperations[] = {
     {"viewExists", [](TestDatabase& d) { d.run("CREATE VIEW NO_SUCH_VIEW AS SELECT 1"); },
         [](TestDatabase&) { return viewExists("NO_SUCH_VIEW"); },
         {"SQLGetInfo 1", "SQLAllocHandle 0", "SQLTables 0", "SQLFetch 0", "SQLFreeHandle 1"}},
-    {"columnType", nothing, typeOfColumn,
-        {"SQLGetInfo 1140", "SQLAllocHandle 0", "SQLColumns 0", "SQLFetch 0", "SQLGetData 1040",
-            "SQLGetData 1100", "SQLFreeHandle 1140"}},
-    {"listColumns", nothing, columnCount,
-        {"SQLGetInfo 1", "SQLAllocHandle 0", "SQLColumns 0", "SQLFetch 0", "SQLGetData 0",
-            "SQLGetData 1", "SQLGetData 1", "SQLFetch 1", "SQLFreeHandle 1"}},
-    {"listTables", nothing, tableCount,
-        {"SQLAllocHandle 0", "SQLTables 0", "SQLFetch 0", "SQLGetData 0", "SQLFetch 1",
-            "SQLFreeHandle 1"}},
     {"nextId", change, [](TestDatabase&) { return nextId("7", "NO_SUCH_SCRATCH"); },
         nextIdOutcomes()}};
 

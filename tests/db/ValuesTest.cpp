@@ -63,16 +63,6 @@ TEST(Literals, EveryNumberReadsBack)
     }
 }
 
-TEST(Literals, TableNames)
-{
-    const Restore restored(ownerPrefix);
-    for (const char* prefix : {"", "GEO.", "X"}) { // brings its own separator or none
-        ownerPrefix = prefix;
-        EXPECT_EQ(prefix + std::string("WELLS"), sqlTable("WELLS"));
-        EXPECT_EQ(prefix + std::string("MSMPDTL"), sqlDiscTable('M', "SMPDTL"));
-    }
-}
-
 TEST(Literals, Dates)
 {
     const Restore restored(dbKind);
