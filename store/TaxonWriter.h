@@ -48,8 +48,8 @@ public:
     /// The category that has most names of that genus; none when the genus is not there.
     std::optional<std::string> categoryOfGenus(const Taxon& name) const;
 
-    /// Announces a name that is not there: it is found from now on and stored by `put`. A genus that
-    /// is there keeps its spelling.
+    /// Announces a name that is not there: it is found from now on and stored by `put`. A genus
+    /// that is there keeps its spelling.
     DictionaryTaxon& add(const Taxon& name);
     /// Stores an announced name, or what the details change of a stored one.
     Outcome put(DictionaryTaxon& entry, const TaxonDetails& details);

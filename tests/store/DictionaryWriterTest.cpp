@@ -1,5 +1,4 @@
 // tests/store/DictionaryWriterTest.cpp
-#include "store/AbundanceWriter.h"
 #include "store/CategoryWriter.h"
 #include "store/SynonymyWriter.h"
 #include "store/TaxonWriter.h"
@@ -15,7 +14,6 @@
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 Taxon named(const char* category, const char* genus, const char* species, const char* author = "")
 {
@@ -238,19 +236,6 @@ TEST(Categories, RunOutOfMnemonics)
     EXPECT_EQ(nullptr, writer.forGroup("palynomorphj", 'P'));
 }
 
-TEST(Categories, ChangeInWhatIsGiven)
-{
-    TestDatabase db;
-    db.run("INSERT INTO CATEGORY VALUES ('RAD', 'Radiolaria', NULL)");
-    CategoryWriter writer(Writing::Write);
-    ASSERT_TRUE(writer.load());
-    Category& category = *writer.find("RAD");
-    const Transaction transaction;
-    EXPECT_EQ(Outcome::Same, writer.put(category, "", 0));
-    EXPECT_EQ(Outcome::Changed, writer.put(category, "Rad's", 'M'));
-    EXPECT_EQ(Outcome::Same, writer.put(category, "Rad's", 'M'));
-}
-
 TEST(PreferredNames, BelongToSchemes)
 {
     TestDatabase db;
@@ -270,93 +255,6 @@ TEST(PreferredNames, BelongToSchemes)
     SynonymyWriter checking(Writing::Check);
     EXPECT_EQ(Outcome::New, checking.put("Other", 1, 2));
     EXPECT_EQ("3", db.value("SELECT count(*) FROM SYNSCH"));
-}
-
-TEST(AbundanceSchemes, ComeInWithTheirLevels)
-{
-    TestDatabase db;
-    db.run("INSERT INTO ABNSCHME VALUES (3, 'Ann`s')");
-    db.run("INSERT INTO ABNSCHMBR VALUES (3, 1, 'Rare', 'R', 0, 0)");
-    for (const bool again : {false, true}) {
-        Transaction transaction;
-        AbundanceWriter writer(Writing::Write);
-        ASSERT_TRUE(writer.load());
-        AbundanceScheme* known = writer.find("Ann's");
-        ASSERT_NE(nullptr, known);
-        EXPECT_EQ(again ? 2u : 1u, known->levels.size());
-        EXPECT_EQ(Outcome::Same, writer.put(*known));
-        EXPECT_EQ(again ? Outcome::Same : Outcome::Changed,
-            writer.putLevel(*known, {1, "Rare", "R", 1, 0}));
-        EXPECT_EQ(again ? Outcome::Same : Outcome::New,
-            writer.putLevel(*known, {2, "Common", "C", 5, 7}));
-        AbundanceScheme* added = again ? writer.find("New") : writer.add("New");
-        ASSERT_NE(nullptr, added);
-        EXPECT_EQ(again ? Outcome::Same : Outcome::New, writer.put(*added));
-        EXPECT_EQ(4, added->id);
-        EXPECT_TRUE(transaction.commit());
-    }
-    EXPECT_THAT(db.rows("SELECT * FROM ABNSCHMBR ORDER BY entry_no"),
-        ElementsAre("3|1|Rare|R|1|0", "3|2|Common|C|5|7"));
-}
-
-// Whatever call fails, the writers say so, and nothing is half stored.
-TEST(DictionaryFaults, EachDriverCallFailing)
-{
-    const auto contents = [](TestDatabase& db) {
-        return db
-            .rows("SELECT (SELECT count(*) FROM CATEGORY), (SELECT count(*) FROM GENUS),"
-                  " (SELECT count(*) FROM SPECIES), (SELECT count(*) FROM TXNOTES),"
-                  " (SELECT count(*) FROM SIPMCODE), (SELECT count(*) FROM SYNONYMY),"
-                  " (SELECT count(*) FROM ABNSCHMBR)")
-            .at(0);
-    };
-    for (int n = 1;; ++n) {
-        TestDatabase db;
-        db.run("INSERT INTO GENUS (gen_id, cat_mnem, genus) VALUES (1, 'F', 'Alphina')");
-        db.run("INSERT INTO SPECIES (spec_id, gen_id, species) VALUES (1, 1, 'alba')");
-        const DriverFault fault(n);
-        bool good = false;
-        std::string error;
-        {
-            Transaction transaction;
-            CategoryWriter categories(Writing::Write);
-            TaxonWriter taxa(Writing::Write);
-            SynonymyWriter synonymy(Writing::Write);
-            AbundanceWriter abundances(Writing::Write);
-            const auto step = [&](bool result, const auto& writer) {
-                error = result ? "" : writer.error();
-                return result;
-            };
-            const auto stored = [](Outcome outcome) { return outcome != Outcome::Failed; };
-            good = step(categories.load(), categories)
-                && step(stored(categories.put(*categories.add({"F", "f", 'M', false}), "", 0)),
-                    categories)
-                && step(taxa.load(), taxa)
-                && step(stored(taxa.put(
-                            *taxa.find(named("F", "Alphina", "alba")), {"Eta", 1, "", {}, {}})),
-                    taxa)
-                && step(stored(taxa.put(
-                            taxa.add(named("F", "Betina", "nova")), {"", 0, "", 5, {"note"}})),
-                    taxa)
-                && step(stored(synonymy.put("s", 2, 1)), synonymy)
-                && step(abundances.load(), abundances)
-                && step(stored(abundances.put(*abundances.add("x"))), abundances)
-                && step(stored(abundances.putLevel(*abundances.find("x"), {1, "", "R", 1, 0})),
-                    abundances)
-                && step(transaction.commit(), transaction);
-        }
-        const std::string where = fault.call() + ' ' + std::to_string(n);
-        EXPECT_EQ(good ? "1|2|2|1|1|1|1" : "0|1|1|0|0|0|0", contents(db)) << where;
-        EXPECT_EQ(good, error.empty()) << where;
-        if (!fault.fired()) {
-            EXPECT_TRUE(good);
-            EXPECT_GT(n, 80) << "the faults were counted through";
-            break;
-        }
-        if (good) {
-            EXPECT_THAT(fault.call(), testing::StartsWith("SQLFree")) << where;
-        }
-    }
 }
 
 } // namespace

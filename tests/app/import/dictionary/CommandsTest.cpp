@@ -13,9 +13,15 @@ using testing::StartsWith;
 struct CommandCase {
     const char* rule;
     const char* arguments;
-    const char* out;
+    std::string out;
     const char* err = "";
 };
+
+const std::string kLadder = "Counts\n"
+                            "level  code  name  from  stands for\n"
+                            "    1  R     Rare     0           0\n"
+                            "    2  5     Some     3          10\n"
+                            "    3  +              4           0\n";
 
 const CommandCase kCommands[] = {
     {"all names but synonyms", "taxa",
@@ -85,33 +91,13 @@ const CommandCase kCommands[] = {
         "in the name.\n"
         "The name is not in the dictionary.\n"},
     {"no name", "taxon ' '", "", "zonaris: There is no name in this text.\n"},
-    {"a ladder", "abundance counts",
-        "Counts\n"
-        "level  code  name  from  stands for\n"
-        "    1  R     Rare     0           0\n"
-        "    2  5     Some     3          10\n"
-        "    3  +              4           0\n"},
-    {"a count", "abundance 1 4",
-        "Counts\n"
-        "level  code  name  from  stands for\n"
-        "    1  R     Rare     0           0\n"
-        "    2  5     Some     3          10\n"
-        "    3  +              4           0\n"
-        "A count of 4 is 5, Some.\n"},
+    {"a ladder", "abundance counts", kLadder},
+    {"a count", "abundance 1 4", kLadder + "A count of 4 is 5, Some.\n"},
     {"a code that is a number, too", "abundance Counts 5",
-        "Counts\n"
-        "level  code  name  from  stands for\n"
-        "    1  R     Rare     0           0\n"
-        "    2  5     Some     3          10\n"
-        "    3  +              4           0\n"
-        "The code 5 stands for 10.\n"
-        "A count of 5 is 5, Some.\n"},
-    {"neither", "abundance Counts Z",
-        "Counts\n"
-        "level  code  name  from  stands for\n"
-        "    1  R     Rare     0           0\n"
-        "    2  5     Some     3          10\n"
-        "    3  +              4           0\n",
+        kLadder
+            + "The code 5 stands for 10.\n"
+              "A count of 5 is 5, Some.\n"},
+    {"neither", "abundance Counts Z", kLadder,
         "zonaris: Z is neither a count nor a code of this scheme.\n"},
     {"no such scheme", "abundance x", "",
         "zonaris: No abundance scheme is called x. There are: Counts.\n"},
