@@ -47,14 +47,14 @@ TEST(ItemList, Orders)
     EXPECT_EQ(0, sorted.indexOf(7));
 }
 
-/// A box without a window.
-template <typename Base> class FakeBox : public Base {
+/// A list box without a window.
+class FakeBox : public zListBoxBase {
 public:
     void add(const char* text) override { rows.emplace_back(text); }
     int count() const override { return static_cast<int>(rows.size()); }
     int selection() const override { return selected; }
     void selection(int row) override { selected = row; }
-    void empty()
+    void clear() override
     {
         rows.clear();
         selected = -1;
@@ -62,19 +62,12 @@ public:
     std::vector<std::string> rows{"left from before"};
     int selected = -1;
 };
-class FakeListBox : public FakeBox<zListBoxBase> {
-    void clear() override { empty(); }
-};
-class FakeComboBox : public FakeBox<zComboBoxBase> {
-    void reset() override { empty(); }
-};
 
 class Filled : public testing::Test {
 protected:
     Filled() { addAll(list, {{7, "seven"}, {8, "eight"}, {7, "again"}, {0, "none"}}); }
     ItemList list;
-    FakeListBox listBox;
-    FakeComboBox comboBox;
+    FakeBox box;
     int id = 99;
     char text[200] = "untouched";
 };
@@ -107,41 +100,25 @@ TEST_F(Filled, LooksUpAndRemoves)
     EXPECT_EQ("8eight 0none", contents(list)) << "every one";
 }
 
-TEST_F(Filled, FillsBoxesAndSelects)
+TEST_F(Filled, FillsABoxAndSelects)
 {
-    list.fillListBox(listBox, 8);
-    list.fillComboBox(comboBox, 7);
-    EXPECT_THAT(listBox.rows, ElementsAre("seven", "eight", "again", "none"));
-    EXPECT_EQ(listBox.rows, comboBox.rows);
-    EXPECT_EQ(1, listBox.selected);
-    EXPECT_EQ(0, comboBox.selected) << "the first of that identifier";
+    list.fillListBox(box, 7);
+    EXPECT_THAT(box.rows, ElementsAre("seven", "eight", "again", "none"));
+    EXPECT_EQ(0, box.selected) << "the first of that identifier";
     for (const int wanted : {0, 9}) { // one that is not there changes nothing
-        list.selectInListBox(listBox, wanted);
-        list.selectInComboBox(comboBox, wanted);
-        EXPECT_EQ(3, listBox.selected);
-        EXPECT_EQ(3, comboBox.selected);
+        list.selectInListBox(box, wanted);
+        EXPECT_EQ(3, box.selected);
     }
-    list.fillListBox(listBox, 9);
-    EXPECT_EQ(0, listBox.selected) << "and is filled as the first row";
-    ItemList().fillListBox(listBox, 9);
-    EXPECT_THAT(listBox.rows, IsEmpty());
-    EXPECT_EQ(-1, listBox.selected) << "if there is a row";
-}
-
-TEST_F(Filled, ReadsTheSelection)
-{
-    list.fillListBox(listBox, 8);
-    list.fillComboBox(comboBox, 8);
-    listBox.selected = 2;
-    EXPECT_EQ(1, list.getListBoxSelection(listBox, &id, text));
-    EXPECT_EQ(7, id);
-    EXPECT_STREQ("again", text);
-    EXPECT_EQ(1, list.getComboBoxSelection(comboBox, &id, nullptr));
-    EXPECT_EQ(8, id);
-    listBox.selected = -1;
-    EXPECT_EQ(0, list.getListBoxSelection(listBox, &id, text));
-    EXPECT_EQ(-1, id);
-    EXPECT_STREQ("", text);
+    list.fillListBox(box, 9);
+    EXPECT_EQ(0, box.selected) << "and is filled as the first row";
+    for (const auto& [row, expected] : {std::pair(2, "17again"), std::pair(-1, "0-1")}) {
+        box.selected = row;
+        const int found = list.getListBoxSelection(box, &id, text);
+        EXPECT_EQ(expected, std::to_string(found) + std::to_string(id) + text);
+    }
+    ItemList().fillListBox(box, 9);
+    EXPECT_THAT(box.rows, IsEmpty());
+    EXPECT_EQ(-1, box.selected) << "if there is a row";
 }
 
 TEST(LoadedItemList, EachLoadReplacesAndASortedOneSortsAgain)

@@ -5,11 +5,11 @@
 #include "db/Units.h"
 #include "tests/support/Restore.h"
 
-#include <bit>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -48,34 +48,23 @@ TEST(Literals, Numbers)
 
 TEST(Literals, EveryNumberReadsBack)
 {
-    const auto check = [](double value) {
+    for (int exponent = -1074; exponent < 1024; ++exponent) {
+        const double value = std::ldexp(exponent % 2 ? 1.0 : 1.2345678901234567, exponent);
         const std::string literal = sqlNumber(value);
         EXPECT_EQ(value, std::strtod(literal.c_str(), nullptr)) << literal;
         EXPECT_EQ(std::string::npos, literal.find('e')) << literal;
-    };
-    for (int exponent = -1074; exponent < 1024; ++exponent)
-        check(std::ldexp(1.0, exponent));
-    std::uint64_t bits = 7;
-    for (int i = 0; i < 2000; ++i) {
-        bits = bits * 6364136223846793005U + 1442695040888963407U;
-        if (const auto value = std::bit_cast<double>(bits); std::isfinite(value))
-            check(value);
     }
 }
 
 TEST(Literals, Dates)
 {
     const Restore restored(dbKind);
-    const Date day(5, 3, 1998);
-    const struct {
-        int kind;
-        Date date;
-        const char* literal;
-    } rows[] = {{2, day, "'05031998'"}, {0, day, "#1998-03-05#"}, {1, day, "#1998-03-05#"},
-        {3, day, "#1998-03-05#"}, {77, day, "#1998-03-05#"}, {2, Date(), "NULL"}, {0, Date(), ""}};
-    for (const auto& row : rows) {
-        dbKind = row.kind;
-        EXPECT_STREQ(row.literal, sqlDate(row.date)) << row.kind;
+    const char* const iso = "#1998-03-05#";
+    for (const auto& [kind, literal, none] : {std::tuple(2, "'05031998'", "NULL"), {0, iso, ""},
+             {1, iso, ""}, {3, iso, ""}, {77, iso, ""}}) {
+        dbKind = kind;
+        EXPECT_STREQ(literal, sqlDate(Date(5, 3, 1998))) << kind;
+        EXPECT_STREQ(none, sqlDate(Date())) << kind;
     }
 }
 
