@@ -1,6 +1,7 @@
 // platform/desktopdb/Catalogue.cpp
 #include "platform/desktopdb/Catalogue.h"
 
+#include "platform/desktopdb/AsciiText.h"
 #include "platform/desktopdb/ColumnType.h"
 #include "platform/desktopdb/Keywords.h"
 #include "platform/desktopdb/MemoryRows.h"
@@ -49,8 +50,6 @@ Value number(std::int64_t n) { return Value::ofInteger(n); }
 Value textOrNull(const CatalogueArgument& t) { return t && !t->empty() ? text(*t) : kNull; }
 Value numberIf(bool present, std::int64_t n) { return present ? number(n) : kNull; }
 
-char lowerOf(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
-
 // % and _ as in LIKE. Walks back to the last % only, so it takes no more than length times
 // length steps.
 bool matches(std::string_view pattern, std::string_view name)
@@ -64,7 +63,7 @@ bool matches(std::string_view pattern, std::string_view name)
             starPattern = ++p;
             starName = n;
         } else if (p < pattern.size()
-            && ((!escaped && c == '_') || lowerOf(c) == lowerOf(name[n]))) {
+            && ((!escaped && c == '_') || upperOf(c) == upperOf(name[n]))) {
             p += escaped ? 2 : 1;
             ++n;
         } else if (starPattern != pattern.npos) {

@@ -1,8 +1,9 @@
 // platform/desktopdb/ColumnType.cpp
 #include "platform/desktopdb/ColumnType.h"
 
+#include "platform/desktopdb/AsciiText.h"
+
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 
 namespace desktopdb {
@@ -77,9 +78,9 @@ Declaration readDeclaration(std::string_view text)
     Declaration result;
     const size_t bracket = std::min(text.find('('), text.size());
     for (const char c : text.substr(0, bracket)) {
-        const bool blank = std::isspace(static_cast<unsigned char>(c)) != 0;
+        const bool blank = isSpace(c);
         if (!blank)
-            result.word += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+            result.word += upperOf(c);
         else if (!result.word.empty() && result.word.back() != ' ')
             result.word += ' ';
     }
@@ -87,7 +88,7 @@ Declaration readDeclaration(std::string_view text)
         result.word.pop_back();
     bool inNumber = false;
     for (const char c : text.substr(bracket)) {
-        const bool digit = std::isdigit(static_cast<unsigned char>(c)) != 0;
+        const bool digit = isDigit(c);
         if (digit && !inNumber && ++result.count > 2)
             break;
         if (digit)

@@ -1,6 +1,7 @@
 // platform/desktopdb/ConnectString.cpp
 #include "platform/desktopdb/ConnectString.h"
 
+#include "platform/desktopdb/AsciiText.h"
 #include "platform/desktopdb/Keywords.h"
 
 #include <algorithm>
@@ -10,14 +11,6 @@
 namespace desktopdb {
 
 namespace {
-std::string_view trimmed(std::string_view text)
-{
-    const size_t first = text.find_first_not_of(" \t");
-    if (first == text.npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 struct Pair {
     std::string_view keyword;
     std::string value;

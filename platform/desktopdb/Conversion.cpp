@@ -2,6 +2,7 @@
 // From the engine's values into the application's buffers.
 #include "platform/desktopdb/Conversion.h"
 
+#include "platform/desktopdb/AsciiText.h"
 #include "platform/desktopdb/DateForms.h"
 #include "platform/desktopdb/WideText.h"
 
@@ -22,14 +23,6 @@ struct Number {
     std::int64_t integer = 0;
     double real = 0;
 };
-
-std::string_view trimmed(std::string_view text)
-{
-    const size_t first = text.find_first_not_of(" \t\r\n");
-    if (first == text.npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
 
 std::optional<Number> numberOfText(std::string_view text)
 {

@@ -1,14 +1,14 @@
 // platform/desktopdb/DateForms.cpp
 #include "platform/desktopdb/DateForms.h"
 
+#include "platform/desktopdb/AsciiText.h"
+
 #include <chrono>
 #include <cstdio>
 
 namespace desktopdb {
 
 namespace {
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
 // Takes between `least` and `most` digits off the front of `text`.
 bool takeNumber(std::string_view& text, size_t least, size_t most, int& out)
 {

@@ -1,6 +1,8 @@
 // platform/desktopdb/Keywords.cpp
 #include "platform/desktopdb/Keywords.h"
 
+#include "platform/desktopdb/AsciiText.h"
+
 #include <algorithm>
 #include <array>
 
@@ -123,8 +125,6 @@ constexpr WordIndex makeIndex()
     return index;
 }
 constexpr WordIndex kIndex = makeIndex();
-
-constexpr char upperOf(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; }
 
 std::string_view upperInto(char* buffer, std::string_view word)
 {

@@ -1,14 +1,11 @@
 // platform/desktopdb/Lexer.cpp
 #include "platform/desktopdb/Lexer.h"
 
+#include "platform/desktopdb/AsciiText.h"
+
 namespace desktopdb {
 
 namespace {
-bool isSpace(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\f' || c == '\v';
-}
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
 // Bytes of other alphabets' letters are letters, as they are for the engine.
 bool startsName(char c)
 {

@@ -1,6 +1,7 @@
 // platform/desktopdb/Rewriter.cpp
 #include "platform/desktopdb/Rewriter.h"
 
+#include "platform/desktopdb/AsciiText.h"
 #include "platform/desktopdb/DateForms.h"
 #include "platform/desktopdb/RewriteSteps.h"
 
@@ -160,10 +161,6 @@ bool runSteps(TokenList& tokens, const RewriteRules& rules, StatementKind kind, 
     return true;
 }
 
-bool isDigits(std::string_view text)
-{
-    return std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-}
 } // namespace
 
 std::string_view plainName(const Token& token)
@@ -219,7 +216,7 @@ bool applyForm(ParameterForm form, Dialect dialect, Value& value, Failure& failu
         value.bytes = isAccessPattern(value.bytes, dialect) ? accessPattern(value.bytes)
                                                             : escapedPattern(value.bytes);
     } else if (form == ParameterForm::DayFirstDate && value.bytes.size() == 8
-        && isDigits(value.bytes)) {
+        && std::ranges::all_of(value.bytes, isDigit)) {
         const auto date = parseDayMonthYear(value.bytes);
         if (!date) {
             failure = {"22007", "'" + value.bytes + "' is no date of the form ddmmyyyy"};

@@ -102,6 +102,20 @@ TEST_F(Misuse, TheDisconnectTakesTheStatementsAlong)
     EXPECT_EQ(DRIVER(driver_, SQLAllocHandle)(SQL_HANDLE_STMT, connection_, &none), SQL_ERROR);
 }
 
+// The driver manager makes a new handle for each connection; others may use one again.
+TEST_F(Misuse, AConnectionStartsAfreshEachTime)
+{
+    EXPECT_EQ(run("ALTER SESSION SET NLS_DATE_FORMAT='ddmmyyyy' "), SQL_SUCCESS);
+    EXPECT_EQ(DRIVER(driver_, SQLDisconnect)(connection_), SQL_SUCCESS);
+    const std::string text = file_.connectString();
+    EXPECT_EQ(DRIVER(driver_, SQLDriverConnect)(connection_, nullptr, bytes(text), SQL_NTS, nullptr,
+                  0, nullptr, SQL_DRIVER_NOPROMPT),
+        SQL_SUCCESS);
+    DRIVER(driver_, SQLAllocHandle)(SQL_HANDLE_STMT, connection_, &statement_);
+    EXPECT_EQ(run("CREATE TABLE t (d DATE)"), SQL_SUCCESS);
+    EXPECT_EQ(run("INSERT INTO t VALUES ('31021998')"), SQL_SUCCESS); // no date, no check
+}
+
 TEST_F(Misuse, CallsOutOfTurn)
 {
     SQLLEN rows = 0;
