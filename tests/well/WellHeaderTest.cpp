@@ -130,10 +130,8 @@ TEST_F(WellMaster, TakesOnlyWhatIsThereAndDiffers)
     } kCases[] = {
         {"two of the columns", "COUNTY TEXT, operator TEXT", "'Shire', 'Op2'", "Oper", "Op2"},
         {"another type is refused", "TYPE TEXT", "'X'", "", ""},
-        {"no type is refused", "TYPE TEXT", "NULL", "", ""},
         {"lower-case units are refused", "UNITS TEXT", "'m'", "", ""},
         {"units beside a refused type", "UNITS TEXT, TYPE TEXT", "'M', 'X'", "|F|", "|M|"},
-        {"all the same", "WELL_NAME TEXT, SB DOUBLE", "'Well Seven', -90.25", "", ""},
         {"what is cut off is no difference", "OCS TEXT", "'OCS-567890xyz'", "OCS-1", "OCS-567890"},
         {"a datum is a byte", "DATUM INTEGER", "258", "", ""},
     };
