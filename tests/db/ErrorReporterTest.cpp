@@ -60,36 +60,23 @@ TEST_F(ErrorReporter, ShowsOneBoxAndReturns)
     EXPECT_EQ(before, dbConnectionHandle());
 }
 
-TEST_F(ErrorReporter, ALostConnectionIsRestored)
-{
-    for (const int fatal : {0, 1}) {
-        dbExecute("SELECT 1");
-        messages.clear();
-        const StatementLog log;
-        fatalError = fatal;
-        reportError(kLost);
-        ASSERT_THAT(messages.texts(), ElementsAre(kLost, kPrompt));
-        EXPECT_EQ("Zonaris Error", messages.boxes()[1].caption);
-        EXPECT_EQ(0x10, messages.boxes()[1].style);
-        EXPECT_EQ(0, fatalError);
-        EXPECT_EQ(
-            std::vector<std::string>(setsDateFormat() ? 1 : 0, kDateFormat), log.statements());
-        EXPECT_EQ(1, dbExecute("SELECT 1")) << "all cursors are forgotten";
-    }
-}
-
-TEST_F(ErrorReporter, AStatementThatLostItsConnection)
+TEST_F(ErrorReporter, RestoresALostConnection)
 {
     for (const Fatal fatal : {Fatal::No, Fatal::Yes}) {
-        messages.clear();
+        dbExecute("SELECT 1");
         {
             const DriverFault fault(1, "SQLExecDirect", DriverFault::Once, "08S01", kLost);
             EXPECT_EQ(0, dbExecute("SELECT 1"));
         }
+        messages.clear();
+        const StatementLog log;
         reportDbFailure("SELECT 1", fatal);
-        EXPECT_THAT(messages.texts(), ElementsAre("SELECT 1", HasSubstr("ORA-03113"), kPrompt));
+        ASSERT_THAT(messages.texts(), ElementsAre("SELECT 1", HasSubstr("ORA-03113"), kPrompt));
+        EXPECT_EQ("Zonaris Error", messages.boxes()[2].caption);
         EXPECT_EQ(0, fatalError);
-        EXPECT_EQ(1, dbExecute("SELECT 1"));
+        EXPECT_EQ(
+            std::vector<std::string>(setsDateFormat() ? 1 : 0, kDateFormat), log.statements());
+        EXPECT_EQ(1, dbExecute("SELECT 1")) << "all cursors are forgotten";
     }
 }
 
