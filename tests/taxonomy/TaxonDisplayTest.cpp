@@ -2,195 +2,138 @@
 #include "tests/support/Restore.h"
 #include "tests/taxonomy/TaxonOf.h"
 
-#include <ostream>
-
 #include <gtest/gtest.h>
-
-using namespace slot;
 
 namespace {
 
-struct DisplayCase {
-    const char* name;
-    Slots slots;
-    short year;
-    int showAuthor, italicMarks, abbreviateGenus;
-    std::string shown;
-};
-void PrintTo(const DisplayCase& c, std::ostream* out) { *out << c.name; }
+const std::string kPlain = "c:FORAM|g:Alphina|s:betana|a:Gamma";
+const std::string kQuoted = "g:Alphina|<s:\"|s:betana|s>:\"";
 
-const Slots kPlain = {{genus, "Alphina"}, {species, "betana"}, {author, "Gamma"}};
-const Slots kUndetermined = {{genus, "Alphina"}, {species, "sp. A"}};
-const Slots kQuoted = {
-    {genus, "Alphina"}, {preSpecies, "\""}, {species, "betana"}, {postSpecies, "\""}};
-
-Slots with(Slots slots, const Slots& more)
+TEST(DisplayName, IsComposed)
 {
-    slots.insert(slots.end(), more.begin(), more.end());
-    return slots;
+    const struct {
+        const char* name;
+        std::string slots;
+        short year;
+        const char* how; // with the author, with italic marks, with an abbreviated genus
+        const char* shown;
+    } kCases[] = {
+        {"without author", kPlain, 1901, "", "Alphina betana"},
+        {"author and year", kPlain, 1901, "a", "Alphina betana  Gamma 1901"},
+        {"italics", kPlain, 1901, "ai", R"(\Alphina betana  \Gamma 1901)"},
+        {"italics, no author text", "g:Alphina", 1901, "ai", R"(\Alphina  \ 1901)"},
+        {"a letter is a character", "g:Ørstedia|s:bø", 0, "g", "Ø. bø"},
+        {"a group of species is not abbreviated", "g:Alphina|s:spp.", 0, "g", "Alphina spp."},
+        {"near miss of the group", "g:Alphina|s:spp. A", 0, "g", "A. spp. A"},
+        {"in front of the subspecies", kPlain + "|<b:var.|b:minor", 1901, "i",
+            R"(\Alphina betana \var. \minor  \Gamma 1901)"},
+        {"lower case", kPlain + "|<s:AFF.", 0, "", "Alphina aff. betana  Gamma"},
+        {"mark in front stands close", kPlain + "|<g:?", 0, "", "?Alphina betana  Gamma"},
+        {"mark behind stands close", kPlain + "|g>:?", 0, "", "Alphina? betana"},
+        {"word behind stands off", kPlain + "|g>:grp.", 0, "i", R"(\Alphina \grp. \betana)"},
+        {"quoted", kQuoted, 0, "", R"(Alphina "betana")"},
+        {"quoted, italics", kQuoted, 0, "i", R"(\Alphina \"\betana\")"},
+        {"sensu shows the author", kPlain + "|s>:Sensu", 0, "", "Alphina betana sensu  Gamma"},
+        {"but not behind the genus", kPlain + "|g>:sensu", 0, "", "Alphina sensu betana"},
+        {"subgenus", kPlain + "|u:Deltina", 0, "", "Alphina (Deltina) betana"},
+        {"subgenus alone, italics", "u:Deltina", 0, "i", R"(\(Deltina))"},
+        {"subspecies", kPlain + "|b:minor", 0, "i", R"(\Alphina betana minor)"},
+        {"undetermined is upright", "g:Alphina|s:sp. A", 0, "i", R"(\Alphina \sp. A)"},
+        {"near miss of sp.", "g:Alphina|s:sparsa", 0, "i", R"(\Alphina sparsa)"},
+        {"trailing blanks of a part", "g:Alphina  |s:betana ", 0, "", "Alphina betana"},
+        {"no name but an author", "a:Gamma", 0, "a", " Gamma"},
+        {"qualifiers without a part", "g>:?|s:betana", 0, "", "?betana"},
+    };
+    for (const auto& c : kCases) {
+        Taxon taxon = taxonOf(c.slots, c.year);
+        const std::string how = c.how;
+        const auto asked = [&how](char letter) { return how.find(letter) != std::string::npos; };
+        EXPECT_STREQ(c.shown, taxon.displayName(asked('a'), asked('i'), asked('g'), 0)) << c.name;
+    }
 }
 
-const DisplayCase kDisplay[] = {
-    {"genus and species", kPlain, 1901, 0, 0, 0, "Alphina betana"},
-    {"author and year", kPlain, 1901, 1, 0, 0, "Alphina betana  Gamma 1901"},
-    {"no year", kPlain, 0, 1, 0, 0, "Alphina betana  Gamma"},
-    {"italics", kPlain, 1901, 1, 1, 0, R"(\Alphina betana  \Gamma 1901)"},
-    {"italics, no author text", {{genus, "Alphina"}}, 1901, 1, 1, 0, R"(\Alphina  \ 1901)"},
-    {"abbreviated", kPlain, 0, 0, 0, 1, "A. betana"},
-    {"a letter is a character", {{genus, "Ørstedia"}, {species, "bø"}}, 0, 0, 0, 1, "Ø. bø"},
-    {"a group of species is not", {{genus, "Alphina"}, {species, "spp."}}, 0, 0, 0, 1,
-        "Alphina spp."},
-    {"near miss of the group", {{genus, "Alphina"}, {species, "spp. A"}}, 0, 0, 0, 1, "A. spp. A"},
-    {"in front: shows the author", with(kPlain, {{preGenus, "cf."}}), 1901, 0, 0, 0,
-        "cf. Alphina betana  Gamma 1901"},
-    {"in front of the subspecies", with(kPlain, {{preSubspecies, "var."}, {subspecies, "minor"}}),
-        1901, 0, 1, 0, R"(\Alphina betana \var. \minor  \Gamma 1901)"},
-    {"lower case", with(kPlain, {{preSpecies, "AFF."}}), 0, 0, 0, 0, "Alphina aff. betana  Gamma"},
-    {"mark in front stands close", with(kPlain, {{preGenus, "?"}}), 0, 0, 0, 0,
-        "?Alphina betana  Gamma"},
-    {"mark behind stands close", with(kPlain, {{postGenus, "?"}}), 0, 0, 0, 0, "Alphina? betana"},
-    {"word behind stands off", with(kPlain, {{postGenus, "grp."}}), 0, 0, 1, 0,
-        R"(\Alphina \grp. \betana)"},
-    {"quoted", kQuoted, 0, 0, 0, 0, R"(Alphina "betana")"},
-    {"quoted, italics", kQuoted, 0, 0, 1, 0, R"(\Alphina \"\betana\")"},
-    {"sensu shows the author", with(kPlain, {{postSpecies, "Sensu"}}), 1901, 0, 0, 0,
-        "Alphina betana sensu  Gamma 1901"},
-    {"sensu behind the genus does not", with(kPlain, {{postGenus, "sensu"}}), 1901, 0, 0, 0,
-        "Alphina sensu betana"},
-    {"subgenus", with(kPlain, {{subgenus, "Deltina"}}), 0, 0, 0, 0, "Alphina (Deltina) betana"},
-    {"subgenus alone, italics", {{subgenus, "Deltina"}}, 0, 0, 1, 0, R"(\(Deltina))"},
-    {"subspecies", with(kPlain, {{subspecies, "minor"}}), 0, 0, 1, 0, R"(\Alphina betana minor)"},
-    {"undetermined", kUndetermined, 0, 0, 0, 0, "Alphina sp. A"},
-    {"undetermined is upright", kUndetermined, 0, 0, 1, 0, R"(\Alphina \sp. A)"},
-    {"near miss of sp.", {{genus, "Alphina"}, {species, "sparsa"}}, 0, 0, 1, 0,
-        R"(\Alphina sparsa)"},
-    {"the category is not shown", with(kPlain, {{category, "FORAM"}}), 0, 0, 0, 0,
-        "Alphina betana"},
-    {"trailing blanks of a part", {{genus, "Alphina  "}, {species, "betana "}}, 0, 0, 0, 0,
-        "Alphina betana"},
-    {"no name but an author", {{author, "Gamma"}}, 0, 1, 0, 0, " Gamma"},
-    {"qualifiers without a part", {{postGenus, "?"}, {species, "betana"}}, 0, 0, 0, 0, "?betana"},
-};
-
-class Display : public testing::TestWithParam<DisplayCase> {};
-TEST_P(Display, Name)
-{
-    const DisplayCase& c = GetParam();
-    Taxon taxon = taxonOf(c.slots, c.year);
-    EXPECT_EQ(c.shown, taxon.displayName(c.showAuthor, c.italicMarks, c.abbreviateGenus, 0));
-}
-INSTANTIATE_TEST_SUITE_P(Rules, Display, testing::ValuesIn(kDisplay));
-
-TEST(Display, PlaceholdersOfAnEmptyName)
+TEST(DisplayName, PlaceholdersOfAnEmptyName)
 {
     Taxon taxon;
     EXPECT_STREQ("*** No taxon defined ***", taxon.displayName(0, 0, 0, 0));
     taxon.donor_id = 7;
     EXPECT_STREQ("*** No donor taxon for donor id: 7 ***", taxon.displayName(0, 0, 0, 0));
     taxon.setSpecId(123);
-    EXPECT_STREQ("*** No taxon in database for id: 123 ***", taxon.displayName(0, 0, 0, 0));
-    taxon.setField(category, "FORAM");
+    taxon.setField(slot::category, "FORAM");
     EXPECT_STREQ("*** No taxon in database for id: 123 ***", taxon.displayName(1, 1, 0, 0));
 }
 
-TEST(Display, CodeInFront)
+TEST(DisplayName, CodeInFront)
 {
     const Restore on(showTaxonCodes, 1);
     Taxon taxon = taxonOf(kPlain);
     taxon.ccode = 1;
-    taxon.sipm_code = 12345;
-    EXPECT_STREQ("2345 Alphina betana", taxon.displayName(0, 0, 0, 1));
-    EXPECT_STREQ("Alphina betana", taxon.displayName(0, 0, 0, 0));
-    taxon.sipm_code = 123456789;
-    EXPECT_STREQ("56789 Alphina betana", taxon.displayName(0, 0, 0, 1));
+    for (const auto& [code, inFront] : {std::pair{12345L, "2345 "}, {123456789L, "56789 "}}) {
+        taxon.sipm_code = code;
+        EXPECT_EQ(std::string(inFront) + "Alphina betana", taxon.displayName(0, 0, 0, 1));
+        EXPECT_STREQ("Alphina betana", taxon.displayName(0, 0, 0, 0));
+    }
     clearShowTaxonCodes();
     EXPECT_STREQ("Alphina betana", taxon.displayName(0, 0, 0, 1));
 }
 
-TEST(Display, LongestNameEndsAtACharacter)
+TEST(DisplayName, LongestEndsAtACharacter)
 {
     Taxon taxon;
-    for (int number = preGenus; number < slot::author; ++number)
+    for (int number = slot::preGenus; number < slot::author; ++number)
         taxon.setField(number, std::string(40, 'x')); // cut to 8 and 30
     std::string name = "x";
     for (int i = 0; i < 39; ++i)
         name += "é";
     taxon.setField(slot::author, name);
-    const std::string shown = taxon.displayName(1, 0, 0, 0);
     // 199 bytes in front of the author, then room for x and 27 characters of two bytes.
-    EXPECT_EQ(199U + 55U, shown.size());
-    EXPECT_EQ(name.substr(0, 55), shown.substr(199));
+    EXPECT_EQ(name.substr(0, 55), std::string(taxon.displayName(1, 0, 0, 0)).substr(199));
 }
 
-struct ShortCase {
-    const char* name;
-    Slots slots;
-    int maxLen;
-    const char* shown;
-};
-void PrintTo(const ShortCase& c, std::ostream* out) { *out << c.name; }
-
-const ShortCase kShort[] = {
-    {"fits", kPlain, 14, "Alphina betana"},
-    {"does not fit", kPlain, 13, "A.betana"},
-    {"species cut", kPlain, 5, "A.bet"},
-    {"nothing left for the species", kPlain, 2, "A."},
-    {"what stands in front is not cut", with(kPlain, {{preGenus, "cf."}, {preSpecies, "aff."}}), 1,
-        "cf.A.aff."},
-    {"negative", kPlain, -1, "A."},
-    {"a group keeps its genus", {{preGenus, "?"}, {genus, "Alphina"}, {species, "spp."}}, 5,
-        "?Alph"},
-    {"no genus", {{species, "betanalonga"}}, 5, ".beta"},
-    {"letters of two bytes", {{genus, "Øa"}, {species, "béta"}}, 5, "Ø.b"},
-    {"no room for half a letter", {{genus, "Øa"}, {species, "béta"}}, 6, "Ø.bé"},
-};
-
-class ShortName : public testing::TestWithParam<ShortCase> {};
-TEST_P(ShortName, Length)
+TEST(ShortName, IsCutAtTheSpecies)
 {
-    Taxon taxon = taxonOf(GetParam().slots);
-    EXPECT_STREQ(GetParam().shown, taxon.shortName(GetParam().maxLen));
+    const struct {
+        const char* name;
+        std::string slots;
+        int maxLen;
+        const char* shown;
+    } kCases[] = {
+        {"fits", kPlain, 14, "Alphina betana"},
+        {"does not fit", kPlain, 13, "A.betana"},
+        {"species cut", kPlain, 5, "A.bet"},
+        {"negative", kPlain, -1, "A."},
+        {"what stands in front is not cut", kPlain + "|<g:cf.|<s:aff.", 1, "cf.A.aff."},
+        {"a group keeps its genus", "<g:?|g:Alphina|s:spp.", 5, "?Alph"},
+        {"no genus", "s:betanalonga", 5, ".beta"},
+        {"no room for half a letter", "g:Øa|s:béta", 5, "Ø.b"},
+        {"room for both halves", "g:Øa|s:béta", 6, "Ø.bé"},
+    };
+    for (const auto& c : kCases)
+        EXPECT_STREQ(c.shown, taxonOf(c.slots).shortName(c.maxLen)) << c.name;
 }
-INSTANTIATE_TEST_SUITE_P(Rules, ShortName, testing::ValuesIn(kShort));
 
-TEST(ShortName, HasATextOfItsOwnAndOverwritesTheDisplayName)
+TEST(AuthorYear, Text)
 {
-    Taxon a = taxonOf({{genus, "Alphina"}, {species, "betana"}});
-    Taxon b = taxonOf({{genus, "Betina"}, {species, "gammana"}});
-    const char* shortName = a.shortName(5);
-    std::string shown = b.displayName(0, 0, 0, 0);
-    EXPECT_STREQ("A.bet", shortName);
-    EXPECT_STREQ("B.gam", b.shortName(5));
-    EXPECT_EQ("Betina gammana", shown);
+    const struct {
+        const char* name;
+        std::string slots;
+        short year;
+        int always;
+        const char* text;
+    } kCases[] = {
+        {"no year keeps the blank", "a:Gamma", 0, 0, " Gamma "},
+        {"no author", "", 1990, 0, "1990"},
+        {"early year", "a:Gamma", 99, 0, " Gamma   99"},
+        {"nothing", "", 0, 1, ""},
+        {"qualifier in front", "<b:cf.|a:Gamma", 1990, 0, ""},
+        {"qualifier in front, always", "<g:cf.|a:Gamma", 1990, 1, " Gamma 1990"},
+        {"qualifier behind", "s>:ss.|a:Gamma", 1990, 0, " Gamma 1990"},
+    };
+    for (const auto& c : kCases) {
+        char text[88];
+        taxonOf(c.slots, c.year).authorYearText(text, c.always);
+        EXPECT_STREQ(c.text, text) << c.name;
+    }
 }
-
-struct AuthorCase {
-    const char* name;
-    Slots slots;
-    short year;
-    int always;
-    const char* text;
-};
-void PrintTo(const AuthorCase& c, std::ostream* out) { *out << c.name; }
-
-const AuthorCase kAuthors[] = {
-    {"author and year", {{author, "Gamma"}}, 1990, 0, " Gamma 1990"},
-    {"no year keeps the blank", {{author, "Gamma"}}, 0, 0, " Gamma "},
-    {"no author", {}, 1990, 0, "1990"},
-    {"early year", {{author, "Gamma"}}, 99, 0, " Gamma   99"},
-    {"nothing", {}, 0, 1, ""},
-    {"qualifier in front", {{preSubspecies, "cf."}, {author, "Gamma"}}, 1990, 0, ""},
-    {"qualifier in front, always", {{preGenus, "cf."}, {author, "Gamma"}}, 1990, 1, " Gamma 1990"},
-    {"qualifier behind", {{postSpecies, "ss."}, {author, "Gamma"}}, 1990, 0, " Gamma 1990"},
-};
-
-class AuthorYear : public testing::TestWithParam<AuthorCase> {};
-TEST_P(AuthorYear, Text)
-{
-    char text[88];
-    taxonOf(GetParam().slots, GetParam().year).authorYearText(text, GetParam().always);
-    EXPECT_STREQ(GetParam().text, text);
-}
-INSTANTIATE_TEST_SUITE_P(Rules, AuthorYear, testing::ValuesIn(kAuthors));
 
 } // namespace

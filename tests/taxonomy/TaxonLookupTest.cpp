@@ -1,120 +1,104 @@
 // tests/taxonomy/TaxonLookupTest.cpp
+#include "taxonomy/Categories.h"
 #include "tests/taxonomy/DictionaryTest.h"
-
-#include <ostream>
 
 #include <gmock/gmock.h>
 
-using namespace slot;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
 
-struct FindCase {
-    const char* name;
-    Slots slots;
-    long gen_id; ///< given for species
-    int add;
-    long found;
-    const char* report; ///< empty: none
-    Slots after;
-};
-void PrintTo(const FindCase& c, std::ostream* out) { *out << c.name; }
-
 constexpr const char* kNoGenusAdded = "Attempt to add genus in getAddGenus";
 constexpr const char* kNoSpeciesAdded = "Attmpt to add species in getAddSpecies";
-
-const FindCase kGenera[] = {
-    {"case of the name is ignored, a blank is no value", {{category, "FORAM"}, {genus, "ALPHINA"}},
-        0, 0, 10, "", {{category, "FORAM"}, {genus, "Alphina"}}},
-    {"category is taken over", {{genus, "alphina"}}, 0, 1, 10, "",
-        {{category, "FORAM"}, {genus, "Alphina"}}},
-    {"category decides", {{category, "NANNO"}, {genus, "Alphina"}}, 0, 0, 14, "",
-        {{category, "NANNO"}, {genus, "Alphina"}}},
-    {"qualifier decides", {{genus, "Alphina"}, {postGenus, "?"}}, 0, 0, 11, "",
-        {{category, "FORAM"}, {genus, "Alphina"}, {postGenus, "?"}}},
-    {"subgenus decides and takes the row's spelling", {{genus, "alphina"}, {subgenus, "DELTINA"}},
-        0, 0, 9, "", {{category, "FORAM"}, {genus, "Alphina"}, {subgenus, "Deltina"}}},
-    {"all details",
-        {{preGenus, "cf."}, {genus, "betina"}, {postGenus, "grp."}, {preSubgenus, "aff."},
-            {subgenus, "etina"}, {postSubgenus, "sl."}},
-        0, 0, 13, "",
-        {{category, "FORAM"}, {preGenus, "cf."}, {genus, "Betina"}, {postGenus, "grp."},
-            {preSubgenus, "aff."}, {subgenus, "Etina"}, {postSubgenus, "sl."}}},
-    {"a detail that only the row has", {{genus, "Betina"}}, 0, 0, 0, "",
-        {{category, "FORAM"}, {genus, "Betina"}}},
-    {"the same leaves a category to refuse with", {{genus, "Betina"}}, 0, 1, 0, kNoGenusAdded,
-        {{category, "FORAM"}, {genus, "Betina"}}},
-    {"unknown", {{category, "FORAM"}, {genus, "Zeta"}}, 0, 1, 0, kNoGenusAdded,
-        {{category, "FORAM"}, {genus, "Zeta"}}},
-    {"unknown, not to be added", {{category, "FORAM"}, {genus, "Zeta"}}, 0, 0, 0, "",
-        {{category, "FORAM"}, {genus, "Zeta"}}},
-    {"unknown without category", {{genus, "Zeta"}}, 0, 1, 0, "", {{genus, "Zeta"}}},
-    {"empty", {{species, "betana"}}, 0, 1, -2, "", {{species, "betana"}}},
-    {"known", {}, 77, 1, 77, "", {}},
-};
-
-class FindGenus : public DictionaryTest, public testing::WithParamInterface<FindCase> {};
-TEST_P(FindGenus, ByNameAndDetails)
-{
-    Taxon taxon = taxonOf(GetParam().slots);
-    taxon.gen_id = GetParam().gen_id;
-    EXPECT_EQ(GetParam().found, taxon.getAddGenus(GetParam().add, 1));
-    EXPECT_EQ(std::max(GetParam().found, 0L), taxon.gen_id);
-    EXPECT_EQ(GetParam().after, slotsOf(taxon));
-    EXPECT_EQ(*GetParam().report ? Texts{GetParam().report} : Texts{}, screen.texts());
-}
-INSTANTIATE_TEST_SUITE_P(Rules, FindGenus, testing::ValuesIn(kGenera));
-
-const FindCase kSpecies[] = {
-    {"case is ignored, the rest is taken", {{species, "BETANA"}}, 10, 1, 100, "",
-        {{species, "betana"}, {author, "Gamma"}}},
-    {"own author stays", {{species, "betana"}, {author, "Own"}}, 10, 0, 100, "",
-        {{species, "betana"}, {author, "Own"}}},
-    {"qualifier is lowered and decides", {{species, "betana"}, {postSpecies, "SS."}}, 10, 0, 101,
-        "", {{species, "betana"}, {postSpecies, "ss."}}},
-    {"subspecies decides", {{species, "betana"}, {subspecies, "MINOR"}}, 10, 0, 99, "",
-        {{species, "betana"}, {subspecies, "minor"}, {author, "Delta"}}},
-    {"all details",
-        {{preSpecies, "CF."}, {species, "gammana"}, {postSpecies, "?"}, {preSubspecies, "Var."},
-            {subspecies, "major"}, {postSubspecies, "sensu"}},
-        13, 0, 103, "",
-        {{preSpecies, "cf."}, {species, "Gammana"}, {postSpecies, "?"}, {preSubspecies, "var."},
-            {subspecies, "Major"}, {postSubspecies, "sensu"}, {author, "Eta"}}},
-    {"of another genus", {{species, "betana"}}, 14, 1, 0, kNoSpeciesAdded, {{species, "betana"}}},
-    {"not to be added", {{species, "zeta"}}, 10, 0, 0, "", {{species, "zeta"}}},
-    {"a detail that only the row has", {{species, "gammana"}, {preSpecies, "cf."}}, 13, 1, 0,
-        kNoSpeciesAdded, {{preSpecies, "cf."}, {species, "Gammana"}}},
-    {"empty", {{genus, "Alphina"}}, 10, 1, -1, "", {{genus, "Alphina"}}},
-    {"no genus", {{species, "betana"}}, 0, 1, -2, "", {{species, "betana"}}},
-};
-
-class FindSpecies : public DictionaryTest, public testing::WithParamInterface<FindCase> {};
-TEST_P(FindSpecies, ByNameAndDetails)
-{
-    Taxon taxon = taxonOf(GetParam().slots);
-    taxon.gen_id = GetParam().gen_id;
-    EXPECT_EQ(GetParam().found, taxon.getAddSpecies(GetParam().add, 1));
-    EXPECT_EQ(std::max(GetParam().found, 0L), taxon.spec_id());
-    EXPECT_EQ(GetParam().after, slotsOf(taxon));
-    EXPECT_EQ(*GetParam().report ? Texts{GetParam().report} : Texts{}, screen.texts());
-}
-INSTANTIATE_TEST_SUITE_P(Rules, FindSpecies, testing::ValuesIn(kSpecies));
+const std::string kBetinaGenus = "<g:cf.|g:Betina|g>:grp.|<u:aff.|u:Etina|u>:sl.";
+const std::string kGammana = "<s:cf.|s:Gammana|s>:?|<b:var.|b:Major|b>:sensu|a:Eta";
 
 using Lookup = DictionaryTest;
 
+TEST_F(Lookup, OfAGenusByNameAndDetails)
+{
+    const struct {
+        const char* name;
+        std::string slots;
+        int add;
+        long found;
+        std::string after, report = "";
+    } kCases[] = {
+        {"case is ignored, a blank no value", "c:FORAM|g:ALPHINA", 0, 10, "c:FORAM|g:Alphina"},
+        {"category is taken over", "g:alphina", 1, 10, "c:FORAM|g:Alphina"},
+        {"category decides", "c:NANNO|g:Alphina", 0, 14, "c:NANNO|g:Alphina"},
+        {"qualifier decides", "g:Alphina|g>:?", 0, 11, "c:FORAM|g:Alphina|g>:?"},
+        {"subgenus decides", "g:alphina|u:DELTINA", 0, 9, "c:FORAM|g:Alphina|u:Deltina"},
+        {"all details", "<g:cf.|g:betina|g>:grp.|<u:aff.|u:etina|u>:sl.", 0, 13,
+            "c:FORAM|" + kBetinaGenus},
+        {"a detail that only the row has", "g:Betina", 0, 0, "c:FORAM|g:Betina"},
+        {"its category is one to refuse with", "g:Betina", 1, 0, "c:FORAM|g:Betina", kNoGenusAdded},
+        {"unknown", "c:FORAM|g:Zeta", 1, 0, "c:FORAM|g:Zeta", kNoGenusAdded},
+        {"unknown, not to be added", "c:FORAM|g:Zeta", 0, 0, "c:FORAM|g:Zeta"},
+        {"unknown without category", "g:Zeta", 1, 0, "g:Zeta"},
+        {"empty", "s:betana", 1, -2, "s:betana"},
+    };
+    for (const auto& c : kCases) {
+        SCOPED_TRACE(c.name);
+        screen.clear();
+        Taxon taxon = taxonOf(c.slots);
+        EXPECT_EQ(c.found, taxon.getAddGenus(c.add, 1));
+        EXPECT_EQ(std::max(c.found, 0L), taxon.gen_id);
+        EXPECT_EQ(c.after, slotsOf(taxon));
+        EXPECT_EQ(c.report.empty() ? Texts{} : Texts{c.report}, screen.texts());
+    }
+    Taxon known;
+    known.gen_id = 77;
+    EXPECT_EQ(77, known.getAddGenus(1, 1));
+}
+
+TEST_F(Lookup, OfASpeciesByNameAndDetails)
+{
+    const struct {
+        const char* name;
+        std::string slots;
+        long gen_id;
+        int add;
+        long found;
+        std::string after, report = "";
+    } kCases[] = {
+        {"case is ignored, the rest is taken", "s:BETANA", 10, 1, 100, "s:betana|a:Gamma"},
+        {"own author stays", "s:betana|a:Own", 10, 0, 100, "s:betana|a:Own"},
+        {"qualifier is lowered", "s:betana|s>:SS.", 10, 0, 101, "s:betana|s>:ss."},
+        {"subspecies", "s:betana|b:MINOR", 10, 0, 99, "s:betana|b:minor|a:Delta"},
+        {"all details", "<s:CF.|s:gammana|s>:?|<b:Var.|b:major|b>:sensu", 13, 0, 103, kGammana},
+        {"of another genus", "s:betana", 14, 1, 0, "s:betana", kNoSpeciesAdded},
+        {"not to be added", "s:zeta", 10, 0, 0, "s:zeta"},
+        {"a detail only the row has", "<s:cf.|s:gammana", 13, 0, 0, "<s:cf.|s:Gammana"},
+        {"empty", "g:Alphina", 10, 1, -1, "g:Alphina"},
+        {"no genus", "s:betana", 0, 1, -2, "s:betana"},
+    };
+    for (const auto& c : kCases) {
+        SCOPED_TRACE(c.name);
+        screen.clear();
+        Taxon taxon = taxonOf(c.slots);
+        taxon.gen_id = c.gen_id;
+        EXPECT_EQ(c.found, taxon.getAddSpecies(c.add, 1));
+        EXPECT_EQ(std::max(c.found, 0L), taxon.spec_id());
+        EXPECT_EQ(c.after, slotsOf(taxon));
+        EXPECT_EQ(c.report.empty() ? Texts{} : Texts{c.report}, screen.texts());
+    }
+}
+
 TEST_F(Lookup, SentAsComposed)
 {
-    Taxon taxon = taxonOf({{category, "FORAM"}, {preGenus, "CF."}, {genus, "Bet'ina"},
-        {postGenus, "grp."}, {preSubgenus, "aff."}, {subgenus, "Etina"}, {postSubgenus, "sl."},
-        {preSpecies, "CF."}, {species, "gammana"}, {postSpecies, "?"}, {preSubspecies, "var."},
-        {subspecies, "Major"}, {postSubspecies, "sensu"}});
+    Taxon taxon = taxonOf("c:FORAM|<g:CF.|g:Bet'ina|g>:grp.|<u:aff.|u:Etina|u>:sl.|<s:CF.|s:gammana"
+                          "|s>:?|<b:var.|b:Major|b>:sensu");
     const StatementLog log;
     taxon.getAddGenus(0, 0);
     taxon.gen_id = 13;
     taxon.getAddSpecies(0, 0);
     taxon.getAddSpecies(0, 0); // known now
+    const Taxon byId(103);
+    EXPECT_EQ("c:FORAM|" + kBetinaGenus + "|" + kGammana, slotsOf(byId));
+    EXPECT_EQ("13 1999 X",
+        std::to_string(byId.gen_id) + " " + std::to_string(byId.year) + " " + byId.alphaCode);
     EXPECT_THAT(log.statements(),
         ElementsAre(
             sent("SELECT cat_mnem, gen_id, genus, q1, q2, q3, sub_genus, q4 FROM " + table("GENUS")
@@ -126,77 +110,156 @@ TEST_F(Lookup, SentAsComposed)
                 + table("SPECIES")
                 + " WHERE upper(species)=upper('gammana') AND gen_id=13"
                   " AND lower(q1)='cf.' AND lower(q2)='?' AND lower(q3)='var.'"
-                  " AND upper(sub_spec)=upper('Major') AND lower(q4)='sensu'")));
-}
-
-TEST_F(Lookup, WithoutFetchingTheSpellingStays)
-{
-    Taxon taxon = taxonOf(
-        {{genus, "ALPHINA"}, {subgenus, "DELTINA"}, {species, "BETANA"}, {subspecies, "MINOR"}});
-    EXPECT_EQ(9, taxon.getAddGenus(0, 0));
-    taxon.gen_id = 10;
-    EXPECT_EQ(99, taxon.getAddSpecies(0, 0));
-    EXPECT_EQ((Slots{{category, "FORAM"}, {genus, "ALPHINA"}, {subgenus, "DELTINA"},
-                  {species, "BETANA"}, {subspecies, "MINOR"}, {author, "Delta"}}),
-        slotsOf(taxon));
-}
-
-TEST_F(Lookup, SpeciesFillsYearAndAlphabeticCodeOnlyWhereEmpty)
-{
-    Taxon taxon = taxonOf({{species, "betana"}}, 1800);
-    taxon.gen_id = 10;
-    taxon.getAddSpecies(0, 0);
-    EXPECT_EQ(1800, taxon.year);
-    EXPECT_EQ("AB:12", taxon.alphaCode);
-    taxon.setSpecId(0);
-    taxon.year = 0;
-    taxon.setAlphaCode("own");
-    taxon.getAddSpecies(0, 0);
-    EXPECT_EQ(1901, taxon.year);
-    EXPECT_EQ("own", taxon.alphaCode);
-}
-
-TEST_F(Lookup, IdsNeedBoth)
-{
-    EXPECT_EQ(100, taxonOf({{genus, "alphina"}, {species, "betana"}}).lookupIds());
-    EXPECT_EQ(0, taxonOf({{genus, "Zeta"}, {species, "betana"}}).lookupIds());
-    EXPECT_EQ(0, taxonOf({{genus, "Alphina"}, {species, "zeta"}}).lookupIds());
-    EXPECT_EQ(0, taxonOf({{genus, "Alphina"}}).lookupIds());
-    EXPECT_THAT(screen.texts(), IsEmpty());
-}
-
-TEST_F(Lookup, ById)
-{
-    const StatementLog log;
-    const Taxon taxon(103);
-    EXPECT_EQ(
-        (Slots{{category, "FORAM"}, {preGenus, "cf."}, {genus, "Betina"}, {postGenus, "grp."},
-            {preSubgenus, "aff."}, {subgenus, "Etina"}, {postSubgenus, "sl."}, {preSpecies, "cf."},
-            {species, "Gammana"}, {postSpecies, "?"}, {preSubspecies, "var."},
-            {subspecies, "Major"}, {postSubspecies, "sensu"}, {author, "Eta"}}),
-        slotsOf(taxon));
-    EXPECT_EQ(13, taxon.gen_id);
-    EXPECT_EQ(1999, taxon.year);
-    EXPECT_EQ("X", taxon.alphaCode);
-    EXPECT_THAT(log.statements(),
-        ElementsAre("SELECT q1,species,q2,q3,sub_spec,q4,author,year,gen_id,alphaCode  FROM "
+                  " AND upper(sub_spec)=upper('Major') AND lower(q4)='sensu'"),
+            "SELECT q1,species,q2,q3,sub_spec,q4,author,year,gen_id,alphaCode  FROM "
                 + table("species") + " WHERE spec_id=103",
             "SELECT cat_mnem, q1,genus,q2,q3,sub_genus,q4 FROM " + table("genus")
                 + " WHERE gen_id=13"));
 }
 
+TEST_F(Lookup, WithoutFetchingTheSpellingStaysAndOnlyEmptyFieldsAreFilled)
+{
+    Taxon taxon = taxonOf("g:ALPHINA|u:DELTINA|s:BETANA|b:MINOR", 1800);
+    EXPECT_EQ(9, taxon.getAddGenus(0, 0));
+    taxon.gen_id = 10;
+    EXPECT_EQ(99, taxon.getAddSpecies(0, 0));
+    EXPECT_EQ("c:FORAM|g:ALPHINA|u:DELTINA|s:BETANA|b:MINOR|a:Delta", slotsOf(taxon));
+    EXPECT_EQ(1800, taxon.year);
+    EXPECT_EQ("CD:1", taxon.alphaCode);
+    taxon.setSpecId(0);
+    taxon.year = 0;
+    taxon.setAlphaCode("own");
+    taxon.getAddSpecies(0, 0);
+    EXPECT_EQ(1950, taxon.year);
+    EXPECT_EQ("own", taxon.alphaCode);
+}
+
+TEST_F(Lookup, IdsNeedBothNames)
+{
+    for (const auto& [slots, id] : {std::pair{"g:alphina|s:betana", 100L}, {"g:Zeta|s:betana", 0L},
+             {"g:Alphina|s:zeta", 0L}, {"g:Alphina", 0L}})
+        EXPECT_EQ(id, taxonOf(slots).lookupIds()) << slots;
+    EXPECT_THAT(screen.texts(), IsEmpty());
+}
+
 TEST_F(Lookup, ByIdWithoutARow)
 {
-    Taxon taxon(5L);
-    EXPECT_STREQ("*** No taxon in database for id: 5 ***", taxon.displayName(0, 0, 0, 0));
+    EXPECT_STREQ("*** No taxon in database for id: 5 ***", Taxon(5L).displayName(0, 0, 0, 0));
     const StatementLog log;
-    EXPECT_THAT(slotsOf(Taxon(0)), IsEmpty());
+    EXPECT_EQ("", slotsOf(Taxon(0)));
     EXPECT_THAT(log.statements(), IsEmpty());
     db.run("UPDATE SPECIES SET gen_id = 55, year = 65537 WHERE spec_id = 104");
     const Taxon orphan(104);
-    EXPECT_EQ((Slots{{species, "alba"}}), slotsOf(orphan));
+    EXPECT_EQ("s:alba", slotsOf(orphan));
     EXPECT_EQ(55, orphan.gen_id);
     EXPECT_EQ(1, orphan.year) << "of 16 bits";
+}
+
+using Readers = DictionaryTest;
+
+TEST_F(Readers, TwoTextsAreTakenApart)
+{
+    const struct {
+        const char *name, *genusText, *speciesText, *slots;
+    } kCases[] = {
+        {"plain", "ZETA", "ETANA", "g:Zeta|s:etana"},
+        {"leading cf without point", "  cf Zeta", "", "<g:cf.|g:Zeta"},
+        {"the blank behind a point stays", "cf. zeta", "", "<g:cf.|g: Zeta"},
+        {"near miss of cf", "cfzeta", "", "g:Cfzeta"},
+        {"aff", "AFF zeta", "aff.eta", "<g:aff.|g:Zeta|<s:aff.|s:eta"},
+        {"var", "zeta", "var eta", "g:Zeta|<s:var.|s:eta"},
+        {"either quote", "'zeta'", "\"eta\"", "<g:\"|g:Zeta|g>:\"|<s:\"|s:eta|s>:\""},
+        {"question marks", "?zeta?", "eta?", "<g:?|g:Zeta|g>:?|s:eta|s>:?"},
+        {"a mark alone stands in front", "?", "", "<g:?"},
+        {"only the first one", "?cf zeta", "", "<g:?|g:Cf Zeta"},
+        {"words behind keep their blank", "zeta grp", "eta SL", "g:Zeta|g>: grp.|s:eta|s>: sl."},
+        {"words with a point", "zeta ss.", "eta grp.", "g:Zeta|g>: ss.|s:eta|s>: grp."},
+        {"near miss of a word behind", "zetass", "etagrp.", "g:Zetass|s:etagrp."},
+        {"thirty bytes are a name", "abcdefghij klmnopqrs tuvwxyzab", "",
+            "g:Abcdefghij Klmnopqrs Tuvwxyzab"},
+        {"more are split at the first blank", "abc defghijklmnopqrstuvwxyzabcdefghijkl",
+            "abc defghijklmnopqrstuvwxyzabcd",
+            "g:Abc|u: defghijklmnopqrstuvwxyzabcdef|s:abc|b: defghijklmnopqrstuvwxyzabcd"},
+        {"counted without the marks", "?abc defghijklmnopqrstuvwxyzabc?", "",
+            "<g:?|g:Abc Defghijklmnopqrstuvwxyzabc|g>:?"},
+        {"too long without a blank", "abcdefghijklmnopqrstuvwxyzabcdefghijklmn", "eta", "s:eta"},
+        {"working name", "zeta", "sp. 1 rri x", "g:Zeta|s:sp. 1 RRI X"},
+        {"letters of two bytes", "øzeta", "bÉta", "g:øzeta|s:bÉta"},
+    };
+    for (const auto& c : kCases)
+        EXPECT_EQ(c.slots, slotsOf(Taxon(c.genusText, c.speciesText, nullptr))) << c.name;
+    EXPECT_THAT(screen.texts(), IsEmpty());
+}
+
+TEST_F(Readers, TwoAndFourTextsFindTheirTaxon)
+{
+    const Taxon two("ALPHINA", "betana", "FORAM ");
+    EXPECT_EQ(10, two.gen_id);
+    EXPECT_EQ(100, two.spec_id());
+    EXPECT_STREQ("FORAM", two.category());
+    EXPECT_STREQ("NAN", Taxon("Zeta", "eta", "NAN ").category());
+    const Taxon four("", "alphina", "BETANA", "minor");
+    EXPECT_EQ(99, four.spec_id());
+    EXPECT_STREQ("betana", four.species());
+    EXPECT_STREQ("cf. x", Taxon("", "cf. x", "", "").genus()) << "as it stands";
+    const StatementLog log;
+    Taxon("FORAM", "Zeta", "betana", nullptr); // no genus: the species is not asked for
+    Taxon("FORAM", "Alphina", "zeta", nullptr);
+    EXPECT_EQ(3U, log.statements().size());
+    EXPECT_THAT(screen.texts(), ElementsAre(kNoGenusAdded, kNoGenusAdded, kNoSpeciesAdded));
+}
+
+#define TO_AUTHOR "FORAM\t\tAlphina\t\t\t\t\t\tbetana\t\t\t\t\tGamma\t"
+
+TEST_F(Readers, ALineFillsTheSlotsInOrder)
+{
+    categoryList(1); // of this test's database
+    constexpr const char* kToAuthor = "c:FORAM|g:Alphina|s:betana|a:Gamma";
+    const struct {
+        const char *name, *line, *given;
+        int year;
+        const char* slots;
+    } kCases[] = {
+        {"whole", TO_AUTHOR "1901", "FORAM", 1901, kToAuthor},
+        {"no year", TO_AUTHOR, "FORAM", 0, kToAuthor},
+        {"year too big", TO_AUTHOR "32768", "FORAM", 0, kToAuthor},
+        {"year too small", TO_AUTHOR "-32769", "FORAM", 0, kToAuthor},
+        {"smallest year", TO_AUTHOR "-32768 and more", "FORAM", -32768, kToAuthor},
+        {"blanks cut", " NANNO\tCF.  \tALPHINA  \t\t", " NANN", 0, "<g:cf.|g:ALPHINA"},
+        {"the last field is unchanged", "NANNO\tCF. ", "NANNO", 0, "c:NANNO|<g:CF. "},
+        {"unknown category", "X\t\tAlphina", "X", 0, "g:Alphina"},
+        {"beginning of a category", "NAN\t\tAlphina", "NAN", 0, "c:NAN|g:Alphina"},
+        {"small letters are another category", "nanno", "nanno", 0, ""},
+        {"empty", "", "", 0, ""},
+    };
+    for (const auto& c : kCases) {
+        const Taxon taxon(c.line);
+        EXPECT_EQ(c.slots, slotsOf(taxon)) << c.name;
+        EXPECT_EQ(c.given, taxon.givenCategory) << c.name;
+        EXPECT_EQ(c.year, taxon.year) << c.name;
+    }
+}
+
+TEST_F(Readers, EverySlotHasItsNamedField)
+{
+    categoryList(1);
+    const char* names[] = {"Category", "Pre-Genus qualifier", "Genus", "Post-Genus qualifier",
+        "Pre-Subgenus qualifier", "Subgenus", "Post-Subgenus qualifier", "Pre-Species qualifier",
+        "Species", "Post-Species qualifier", "Pre-Subspecies qualifier", "Subspecies",
+        "Post-Subspecies qualifier", "Author"};
+    for (int number = 0; number < slot::count; ++number) {
+        const char* value = number == slot::category ? "FORAM" : "x";
+        EXPECT_EQ(std::string(kSlotKeys[number]) + ":" + value,
+            slotsOf(Taxon(names + number, &value, 1)));
+    }
+    const char* mixed[] = {"species", "SPECIES", "Pre-Subspecies Qualifier", "Year", "code",
+        "Category", "Spezies", "Genus "};
+    const char* values[] = {"alba", "betana ", "CF.", "1990", "-7", "X", "y", "z"};
+    const Taxon taxon(mixed, values, 8);
+    EXPECT_EQ("s:betana |<b:cf.", slotsOf(taxon));
+    EXPECT_EQ(1990, taxon.year);
+    EXPECT_EQ(-7, taxon.sipm_code);
+    EXPECT_EQ("", taxon.givenCategory);
 }
 
 } // namespace

@@ -3,7 +3,7 @@
 #include "tests/support/MessageLog.h"
 #include "tests/taxonomy/TaxonOf.h"
 
-#include <ostream>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -11,75 +11,134 @@ using namespace slot;
 
 namespace {
 
-struct SentenceCase {
-    const char* name;
-    const char* sentence;
-    Slots slots;
-};
-void PrintTo(const SentenceCase& c, std::ostream* out) { *out << c.name; }
-
-const SentenceCase kSentences[] = {
-    {"two words", "Alphina betana", {{genus, "Alphina"}, {species, "betana"}}},
-    {"runs of blanks", "  Alphina   betana  ", {{genus, "Alphina"}, {species, "betana"}}},
-    {"genus alone", "Alphina", {{genus, "Alphina"}, {species, "."}}},
-    {"no words", "  ", {{species, "."}}},
-    {"qualified genus", "? Alphina", {{preGenus, "?"}, {genus, "Alphina"}, {species, "."}}},
-    {"qualifier alone", "aff.", {{preGenus, "aff."}, {species, "."}}},
-    {"near miss of a qualifier", "Cf. Alphina", {{genus, "Cf."}, {species, "Alphina"}}},
-    {"qualified species", "Alphina cf. betana minor",
-        {{genus, "Alphina"}, {preSpecies, "cf."}, {species, "betana minor"}}},
-    {"? in front of the species is one", "Alphina ? betana",
-        {{genus, "Alphina"}, {species, "? betana"}}},
-    {"qualifier without a species", "Alphina aff.", {{genus, "Alphina"}, {preSpecies, "aff."}}},
-    {"thirty bytes stay together", "Alphina abcdefghijklmno pqrstuvwxyzabc",
-        {{genus, "Alphina"}, {species, "abcdefghijklmno pqrstuvwxyzabc"}}},
-    {"thirty-one do not", "Alphina abcdefghijklmno pqrstuvwxyzabcd",
-        {{genus, "Alphina"}, {species, "abcdefghijklmno"}, {subspecies, "pqrstuvwxyzabcd"}}},
-    {"subspecies overflows to the author, which takes the rest",
-        "Alphina abcdefghijklmnopqrstuvwxyz123 a123456789b123456789c12345678 d "
-        "e123456789f123456789 "
-        "g123456789",
-        {{genus, "Alphina"}, {species, "abcdefghijklmnopqrstuvwxyz123"},
-            {subspecies, "a123456789b123456789c12345678 "},
-            {author, "d e123456789f123456789 g123456789"}}},
-    {"word longer than a part", "Alphina abcdefghijklmnopqrstuvwxyz1234567 x",
-        {{genus, "Alphina"}, {species, "abcdefghijklmnopqrstuvwxyz1234"}, {subspecies, "x"}}},
-};
-
-class Sentence : public testing::TestWithParam<SentenceCase> {};
-TEST_P(Sentence, Words) { EXPECT_EQ(GetParam().slots, slotsOf(Taxon(GetParam().sentence, 0))); }
-INSTANTIATE_TEST_SUITE_P(Rules, Sentence, testing::ValuesIn(kSentences));
-
-TEST(Sentence, LookupIsRefused)
+TEST(Sentence, FillsTheNamesWordByWord)
 {
+    const struct {
+        const char *name, *sentence, *slots;
+    } kCases[] = {
+        {"runs of blanks", "  Alphina   betana  ", "g:Alphina|s:betana"},
+        {"genus alone", "Alphina", "g:Alphina|s:."},
+        {"no words", "  ", "s:."},
+        {"qualified genus", "? Alphina", "<g:?|g:Alphina|s:."},
+        {"qualifier alone", "aff.", "<g:aff.|s:."},
+        {"near miss of a qualifier", "Cf. Alphina", "g:Cf.|s:Alphina"},
+        {"qualified species", "Alphina cf. betana minor", "g:Alphina|<s:cf.|s:betana minor"},
+        {"a mark is none there", "Alphina ? betana", "g:Alphina|s:? betana"},
+        {"qualifier without a species", "Alphina aff.", "g:Alphina|<s:aff."},
+        {"thirty bytes stay together", "Alphina abcdefghijklmno pqrstuvwxyzabc",
+            "g:Alphina|s:abcdefghijklmno pqrstuvwxyzabc"},
+        {"thirty-one do not", "Alphina abcdefghijklmno pqrstuvwxyzabcd",
+            "g:Alphina|s:abcdefghijklmno|b:pqrstuvwxyzabcd"},
+        {"the author takes the rest",
+            "Alphina abcdefghijklmnopqrstuvwxyz123 a123456789b123456789c12345678 d e123456789 f",
+            "g:Alphina|s:abcdefghijklmnopqrstuvwxyz123|b:a123456789b123456789c12345678 "
+            "|a:d e123456789 f"},
+        {"word longer than a part", "Alphina abcdefghijklmnopqrstuvwxyz1234567 x",
+            "g:Alphina|s:abcdefghijklmnopqrstuvwxyz1234|b:x"},
+    };
+    for (const auto& c : kCases)
+        EXPECT_EQ(c.slots, slotsOf(Taxon(c.sentence, 0))) << c.name;
     const MessageLog screen;
-    const Taxon taxon("Alphina betana", 1);
+    EXPECT_EQ("g:Alphina|s:betana", slotsOf(Taxon("Alphina betana", 1)));
     EXPECT_EQ(std::vector<std::string>{"Warning: Attempt to lookuop Taxon::Taxon"}, screen.texts());
-    EXPECT_STREQ("betana", taxon.species());
 }
-
-struct CaseCase {
-    const char* text;
-    const char* cased;
-};
-const CaseCase kSpeciesCases[] = {
-    {"BETANA", "betana"},
-    {"sp. a1 rri x", "sp. A1 RRI X"},
-    {"SPA. b", "spa. b"},
-    {"betana Spt 3", "betana SPT 3"},
-    {"betana spt", "betana spt"},
-    {"spt betana", "spt betana"},
-    {"x ssi y rri z ms q", "x SSI y RRI z MS q"},
-    {"x ms y ms z", "x MS y ms z"},
-};
 
 TEST(SpeciesCase, WorkingNamesAreRaised)
 {
-    for (const CaseCase& c : kSpeciesCases) {
-        std::string text = c.text;
-        fixSpeciesCase(text);
-        EXPECT_EQ(c.cased, text);
+    for (const auto& [text, cased] :
+        {std::pair{"BETANA", "betana"}, {"sp. a1 rri x", "sp. A1 RRI X"}, {"SPA. b", "spa. b"},
+            {"betana Spt 3", "betana SPT 3"}, {"betana spt", "betana spt"},
+            {"spt betana", "spt betana"}, {"x ssi y rri z ms q", "x SSI y RRI z MS q"},
+            {"x ms y ms z", "x MS y ms z"}}) {
+        std::string fixed = text;
+        fixSpeciesCase(fixed);
+        EXPECT_EQ(cased, fixed);
     }
+}
+
+struct SlotWords {
+    int number;
+    std::vector<std::string> exclusive;
+    std::string marks;
+};
+
+const SlotWords kSlotWords[] = {
+    {preGenus, {"cf.", "aff."}, "? \""},
+    {postGenus, {"grp.", "ss.", "sl."}, "? \""},
+    {preSubgenus, {"cf.", "aff."}, "\""},
+    {postSubgenus, {"grp.", "ss.", "sl."}, "? \""},
+    {preSpecies, {"cf.", "aff."}, "\""},
+    {postSpecies, {"grp.", "ss.", "sl.", "sensu"}, "? \""},
+    {preSubspecies, {"cf.", "aff.", "var."}, "\""},
+    {postSubspecies, {"ss.", "sl.", "sensu"}, "\""},
+};
+
+/// The number of the faulty slot and what is left in `number`.
+std::pair<int, std::string> normalised(int number, const std::string& text)
+{
+    Taxon taxon;
+    taxon.setField(number, text);
+    const int faulty = taxon.normaliseQualifiers();
+    return {faulty, taxon.field(number)};
+}
+
+TEST(Qualifiers, OfAnotherSlotDisappearAndTwoExclusiveOnesAreAFault)
+{
+    for (const auto& [number, exclusive, marks] : kSlotWords) {
+        for (const char* word : {"?", "\"", "cf.", "aff.", "grp.", "ss.", "sl.", "sensu", "var."}) {
+            const bool accepted = marks.find(word) != std::string::npos
+                || std::find(exclusive.begin(), exclusive.end(), word) != exclusive.end();
+            EXPECT_EQ(std::pair(0, std::string(accepted ? word : "")), normalised(number, word));
+            for (const std::string& other : exclusive) {
+                const std::string both = word + other;
+                const bool fault = accepted && word[1] && word != other && both.size() <= 8;
+                EXPECT_EQ(fault ? number : 0, normalised(number, both).first) << both;
+            }
+        }
+    }
+}
+
+TEST(Qualifiers, AreWrittenInOneOrder)
+{
+    const struct {
+        const char* name;
+        int number;
+        const char *text, *normalised;
+    } kCases[] = {
+        {"word behind the mark", postSpecies, "ss. ?", "? ss."},
+        {"all that go together, in front", preGenus, "\"aff.?", "? aff. \""},
+        {"in front of the subspecies the quote precedes", preSubspecies, "var.\"", "\" var."},
+        {"found inside other text", postGenus, "xss.x", "ss."},
+        {"letter case counts", preGenus, "CF.", ""},
+        {"longer than the slot", postSpecies, "?\" sensu", "? \" sens"},
+    };
+    for (const auto& c : kCases)
+        EXPECT_EQ(std::pair(0, std::string(c.normalised)), normalised(c.number, c.text)) << c.name;
+    Taxon taxon = taxonOf("<g:x|g:cf.|g>:ss. sl.|<s:x|a:sensu aff.");
+    EXPECT_EQ(postGenus, taxon.normaliseQualifiers());
+    EXPECT_EQ("g:cf.|g>:ss. sl.|<s:x|a:sensu aff.", slotsOf(taxon)) << "stops at the fault";
+}
+
+TEST(Qualifiers, CheckTellsTheFaultySlot)
+{
+    const struct {
+        const char *name, *slots;
+        int faulty;
+    } kCases[] = {
+        {"two exclusive words", "<b:cf.var.|g>:\"", preSubspecies},
+        {"around the whole name", "<g:\"|b>:\"", 0},
+        {"not closed", "<s:\"", preSpecies},
+        {"not opened", "s>:\"", postSpecies},
+        {"opened twice", "<g:\"|<s:\"|s>:\"", preSpecies},
+        {"closed twice", "<g:\"|g>:\"|s>:\"", postSpecies},
+        {"a second pair", "<g:\"|g>:\"|<s:\"", preSpecies},
+        {"quote in a name is none", "g:\"", 0},
+        {"four question marks", "<g:?|g>:?|u>:?|s>:?", postSpecies},
+        {"one that the slot does not accept", "<g:?|g>:?|u>:?|<s:?", 0},
+        {"quotes come first", "<g:?\"|g>:?|u>:?|s>:?", preGenus},
+    };
+    for (const auto& c : kCases)
+        EXPECT_EQ(c.faulty, taxonOf(c.slots).checkQualifiers()) << c.name;
 }
 
 TEST(Slots, CutAtTheirCapacityAndAtACharacter)
@@ -93,47 +152,35 @@ TEST(Slots, CutAtTheirCapacityAndAtACharacter)
     }
     for (int number = 0; number < slot::count; ++number)
         EXPECT_EQ(std::string(slotRule(number).capacity, 'y'), taxon.field(number)) << number;
-    taxon.setField(genus, taxon.field(species) + 28);
-    EXPECT_STREQ("yy", taxon.genus());
-    taxon.setField(genus, taxon.genus() + 1);
+    taxon.setField(genus, taxon.genus() + 29);
     EXPECT_STREQ("y", taxon.genus()) << "from its own text";
 }
 
 TEST(Value, AssignmentKeepsGivenCategory)
 {
-    Taxon from = taxonOf({{genus, "Alphina"}}, 1901);
-    from.givenCategory = "XX";
+    Taxon from = taxonOf("g:Alphina", 1901), to;
     from.setSpecId(5);
-    from.gen_id = 6;
-    from.donor_id = 7;
-    from.sipm_code = 8;
-    from.ccode = 9;
+    from.gen_id = 6, from.donor_id = 7, from.sipm_code = 8, from.ccode = 9;
     from.setAlphaCode("A:1");
     from.setReferences("ref");
     from.setNotes("note");
-    Taxon to;
     to.givenCategory = "YY";
     to = from;
     from.addReferences("s"); // of its own
     EXPECT_EQ("YY", to.givenCategory);
-    EXPECT_STREQ("Alphina", to.genus());
     EXPECT_EQ((std::vector<long>{1901, 5, 6, 7, 8, 9}),
         (std::vector<long>{to.year, to.spec_id(), to.gen_id, to.donor_id, to.sipm_code, to.ccode}));
-    EXPECT_EQ("A:1", to.alphaCode);
-    EXPECT_STREQ("ref", to.references());
-    EXPECT_STREQ("note", to.notes());
-    EXPECT_EQ("", Taxon(from).givenCategory);
+    EXPECT_EQ("g:Alphina A:1 ref note",
+        slotsOf(to) + " " + to.alphaCode + " " + to.references() + " " + to.notes());
 }
 
 TEST(Value, LongTextsHold240Bytes)
 {
     Taxon taxon;
-    EXPECT_EQ(nullptr, taxon.references());
     taxon.addReferences(nullptr);
     EXPECT_STREQ("", taxon.references());
     taxon.setReferences(std::string(238, 'x').c_str());
     taxon.addReferences("yé");
-    EXPECT_EQ(std::string(238, 'x') + "y", taxon.references());
     taxon.addReferences("zz");
     EXPECT_EQ(std::string(238, 'x') + "yz", taxon.references());
     taxon.addNotes("a");
@@ -151,63 +198,42 @@ TEST(Value, AlphaCodeBehindTheColon)
     EXPECT_EQ("AB", taxon.alphaCodeText(1));
 }
 
-TEST(Value, MakeSpp)
+TEST(Value, SpeciesPartIsReplaced)
 {
-    for (const char* word : {"sp.", "SP.", "sp", "SP"}) {
-        Taxon taxon = taxonOf({{species, word}});
-        EXPECT_EQ(1, taxon.makeSpp());
-        EXPECT_STREQ("spp.", taxon.species());
+    for (const std::string word : {"sp.", "SP.", "sp", "SP", "Sp.", "sp. ", "spp", ""}) {
+        Taxon taxon = taxonOf("s:" + word);
+        const int made = word.size() > 1 && word != "Sp." && word != "sp. " && word != "spp";
+        EXPECT_EQ(made, taxon.makeSpp()) << word;
+        EXPECT_EQ(made ? "spp." : word, taxon.species());
     }
-    for (const char* word : {"Sp.", "sp. ", "spp.", "spp", ""}) {
-        Taxon taxon = taxonOf({{species, word}});
-        EXPECT_EQ(0, taxon.makeSpp());
-        EXPECT_STREQ(word, taxon.species());
-    }
-}
-
-TEST(Value, SetSpeciesPart)
-{
-    Slots all;
-    for (int number = 0; number < slot::count; ++number)
-        all.emplace_back(number, "x");
-    const Slots front = {{category, "x"}, {preGenus, "x"}, {genus, "x"}, {postGenus, "x"},
-        {preSubgenus, "x"}, {subgenus, "x"}, {postSubgenus, "x"}};
-    const auto after = [&](const char* text) {
-        Taxon taxon = taxonOf(all, 1901);
+    const std::string front = "c:x|<g:x|g:x|g>:x|<u:x|u:x|u>:x";
+    for (const auto& [text, after] : {std::pair{"spp.", "|s:spp."}, {"cf.", "|<s:cf.|s:x|b:x"},
+             {static_cast<const char*>(nullptr), "|s:x|b:x"}}) {
+        Taxon taxon = taxonOf(front + "|<s:x|s:x|s>:x|<b:x|b:x|b>:x|a:x", 1901);
         taxon.setSpecId(5);
         taxon.setSpeciesPart(text);
-        EXPECT_EQ(0, taxon.year);
-        EXPECT_EQ(0, taxon.spec_id());
-        const Slots slots = slotsOf(taxon);
-        EXPECT_EQ(front, Slots(slots.begin(), slots.begin() + 7));
-        return Slots(slots.begin() + 7, slots.end());
-    };
-    EXPECT_EQ((Slots{{species, "spp."}}), after("spp."));
-    EXPECT_EQ((Slots{{preSpecies, "cf."}, {species, "x"}, {subspecies, "x"}}), after("cf."));
-    EXPECT_EQ((Slots{{species, "x"}, {subspecies, "x"}}), after(nullptr));
+        EXPECT_EQ(front + after, slotsOf(taxon));
+        EXPECT_EQ(0, taxon.year + taxon.spec_id());
+    }
 }
-
-struct CoilingCase {
-    const char* species;
-    const char* subspecies;
-    int any, sinistral, dextral;
-};
-const CoilingCase kCoiling[] = {
-    {"betana", "", 0, 0, 0},
-    {"betana (s)", "", 1, 1, 0},
-    {"betana", "Dextral", 1, 0, 1},
-    {"betana (D)", "sinistra", 1, 1, 1},
-    {"betana s", "(x)", 0, 0, 0},
-};
 
 TEST(Value, CoilingDirection)
 {
-    for (const CoilingCase& c : kCoiling) {
-        const Taxon taxon =
-            taxonOf({{species, c.species}, {subspecies, c.subspecies}, {genus, "Sindex"}});
-        EXPECT_EQ(c.any, taxon.hasCoilingMark()) << c.species;
-        EXPECT_EQ(c.sinistral, taxon.isSinistral()) << c.species;
-        EXPECT_EQ(c.dextral, taxon.isDextral()) << c.species;
+    const struct {
+        const char* slots;
+        int any, sinistral, dextral;
+    } kCases[] = {
+        {"s:betana", 0, 0, 0},
+        {"s:betana (s)", 1, 1, 0},
+        {"s:betana|b:Dextral", 1, 0, 1},
+        {"s:betana (D)|b:sinistra", 1, 1, 1},
+        {"g:Sindex|s:betana s|b:(x)", 0, 0, 0},
+    };
+    for (const auto& c : kCases) {
+        const Taxon taxon = taxonOf(c.slots);
+        EXPECT_EQ(c.any, taxon.hasCoilingMark()) << c.slots;
+        EXPECT_EQ(c.sinistral, taxon.isSinistral()) << c.slots;
+        EXPECT_EQ(c.dextral, taxon.isDextral()) << c.slots;
     }
 }
 

@@ -6,16 +6,13 @@
 #include "taxonomy/TaxonList.h"
 #include "tests/taxonomy/DictionaryTest.h"
 
-#include <functional>
 #include <memory>
-#include <ostream>
 #include <sstream>
 
 #include <gmock/gmock.h>
 
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::SizeIs;
 using testing::StartsWith;
 
 namespace {
@@ -52,11 +49,55 @@ Taxon withId(long spec_id)
     return taxon;
 }
 
+std::string genusFound()
+{
+    Taxon taxon = taxonOf("c:NANNO|g:alphina");
+    const long id = taxon.getAddGenus(0, 1);
+    return joined(id, taxon.genus());
+}
+
+std::string speciesFound()
+{
+    Taxon taxon = taxonOf("s:ALBA");
+    taxon.gen_id = 14;
+    const long id = taxon.getAddSpecies(0, 1);
+    return joined(id, taxon.species());
+}
+
+std::string preferred()
+{
+    Taxon taxon = withId(100);
+    taxon.loadPreferred(5);
+    return textOf(taxon.preferred());
+}
+
 std::string search()
 {
     char any[] = "%", minor[] = "minor";
     const std::string synonyms = textOf(Taxon::searchTaxa(any, any, any, any, minor, 0, 0, 0));
     return synonyms + textOf(Taxon::searchTaxa(any, any, any, any, any, 0, 5, 6));
+}
+
+std::string wellTaxa()
+{
+    auto list = std::make_unique<TaxonList>();
+    list->addWellTaxa(7, 'N');
+    list->reset();
+    return textOf(list.release());
+}
+
+std::string codes()
+{
+    Taxon taxon = withId(100);
+    const long code = taxon.sipmCode(1);
+    return joined(code, taxon.sipmCode(1));
+}
+
+std::string groupSet()
+{
+    char name[31] = "before";
+    groupSetName(3, name);
+    return joined(name, groupSetId("a set"));
 }
 
 enum Severity { Reported, Fatal, EndsWithZero };
@@ -71,232 +112,143 @@ struct Statement {
 
 struct Operation {
     const char* name;
-    std::function<std::string(Dictionary&)> run;
-    std::string done;
+    const char* setup; ///< run before it
+    std::string (*run)();
     std::vector<Statement> statements;
 };
-void PrintTo(const Operation& o, std::ostream* out) { *out << o.name; }
 
 constexpr const char* kSpecies = "Error in statement: SELECT q1,species";
 constexpr const char* kGenus = "Error in statement: SELECT cat_mnem, q1";
-
-/// The two statements that load taxon 104 by its identifier, and what stands before and behind it.
-std::vector<Statement> loading(std::vector<Statement> before, const std::string& behind = "")
-{
-    const std::string empty = "104|0|0||||" + behind, part = "104|14|0|||alba|" + behind;
-    before.push_back({kSpecies, empty, {empty}});
-    before.push_back({kGenus, part, {part}});
-    return before;
-}
-
 const std::string kAlba = "104|14|0|NANNO|Alphina|alba|";
 const std::string kBetina = "103|13|1999|FORAM|Betina|Gammana|";
 const std::string kMinor = "99|10|1950|FORAM|Alphina|betana|";
 
+/// A statement and the two behind it that load a taxon by its identifier.
+std::vector<Statement> thenLoading(const Statement& first)
+{
+    const std::string empty = "104|0|0||||", part = "104|14|0|||alba|";
+    return {first, {kSpecies, empty, {empty}}, {kGenus, part, {part}}};
+}
+
 const Operation kOperations[] = {
-    {"loadById", [](Dictionary&) { return textOf(std::make_unique<Taxon>(104).get()); }, kAlba,
-        loading({})},
-    {"getAddGenus",
-        [](Dictionary&) {
-            Taxon taxon = taxonOf({{slot::category, "NANNO"}, {slot::genus, "alphina"}});
-            const long id = taxon.getAddGenus(0, 1);
-            return joined(id, taxon.genus());
-        },
-        "14|Alphina|",
+    {"genus", "", genusFound,
         {{"Error in statement: SELECT cat_mnem, gen_id", "-99|alphina|", {"0|alphina|"}}}},
-    {"getAddSpecies",
-        [](Dictionary&) {
-            Taxon taxon = taxonOf({{slot::species, "ALBA"}});
-            taxon.gen_id = 14;
-            const long id = taxon.getAddSpecies(0, 1);
-            return joined(id, taxon.species());
-        },
-        "104|alba|", {{"Error in statement: SELECT spec_id", "-99|ALBA|", {"0|ALBA|"}}}},
-    {"loadPreferred",
-        [](Dictionary&) {
-            Taxon taxon = withId(100);
-            taxon.loadPreferred(5);
-            return textOf(taxon.preferred());
-        },
-        kAlba, loading({{"SELECT pref FROM", "null", {"null"}}})},
-    {"firstSynonym", [](Dictionary&) { return joined(withId(104).firstSynonym(5)); }, "100|",
+    {"species", "", speciesFound,
+        {{"Error in statement: SELECT spec_id", "-99|ALBA|", {"0|ALBA|"}}}},
+    {"preferred", "", preferred, thenLoading({"SELECT pref FROM", "null", {"null"}})},
+    {"first synonym", "", [] { return joined(withId(104).firstSynonym(5)); },
         {{"SELECT spec_id FROM", "0|", {"0|"}}}},
-    {"synonymsOf",
-        [](Dictionary& d) {
-            d.db.run("UPDATE SYNONYMY SET spec_id = 104, pref = 3 WHERE spec_id = 100");
-            return textOf(Taxon::synonymsOf(5, 3));
-        },
-        kAlba, loading({{"SELECT spec_id FROM", "null", {"null", kAlba}}})},
-    {"searchTaxa", [](Dictionary&) { return search(); }, kBetina,
+    {"synonyms", "UPDATE SYNONYMY SET spec_id = 104, pref = 3 WHERE spec_id = 100",
+        [] { return textOf(Taxon::synonymsOf(5, 3)); },
+        thenLoading({"SELECT spec_id FROM", "null", {"null", kAlba}})},
+    {"search", "", search,
         {{"Error in: SELECT s.spec_id", kBetina, {kBetina, kBetina}, Fatal},
             {"SELECT pref FROM", kBetina, {kMinor + kBetina}},
             {"Error in: SELECT s.spec_id", "", {"", kBetina}, Fatal},
             {"SELECT pref FROM", "", {kBetina}}, {kSpecies, "103|0|0||||", {"103|0|0||||"}},
             {kGenus, "103|13|1999|||Gammana|", {"103|13|1999|||Gammana|"}}}},
-    {"sipmCode",
-        [](Dictionary&) {
-            Taxon taxon = withId(100);
-            taxon.sipmCode(2);
-            const long code = taxon.sipmCode(1);
-            return joined(code, taxon.sipmCode(1));
-        },
-        "12345678|12345678|",
-        {{"Error in: SELECT sipm_code", "12345678|12345678|", {"12345678|12345678|"}, Fatal},
-            {"Error in: SELECT sipm_code", "0|0|", {"0|0|"}, Fatal}}},
-    {"loadReferences",
-        [](Dictionary&) { return textOf(std::make_unique<Taxon>(withId(100))->loadReferences()); },
-        "a reference", {{"Error in: SELECT references", "null", {"null"}, Fatal}}},
-    {"addWellTaxa",
-        [](Dictionary& d) {
-            d.db.run("INSERT INTO TAXONOCC (well_id, spec_id, disc_id) VALUES (7, 104, 'N')");
-            auto list = std::make_unique<TaxonList>();
-            list->addWellTaxa(7, 'N');
-            list->reset();
-            return textOf(list.release());
-        },
-        kAlba, loading({{"SELECT DISTINCT spec_id", "", {"", kAlba}}})},
-    {"synonymySchemeName",
-        [](Dictionary&) {
-            TaxonList::synonymySchemeName(6);
-            return textOf(TaxonList::synonymySchemeName(5));
-        },
-        "Scheme five",
-        {{"SELECT name FROM", "Scheme five", {"Scheme five"}}, {"SELECT name FROM", "", {""}}}},
-    {"Discs",
-        [](Dictionary& d) {
-            d.db.run("INSERT INTO DISCS VALUES ('N', 'Nanno', 'Nan', 'Nannical')");
-            return Discs()[1].adj.str();
-        },
-        "Nannical", {{"SELECT disc_id, disc_name", "", {"", "Nannical"}, Fatal}}},
-    {"categoryDisc", [](Dictionary&) { return std::string(1, categoryDisc("NANNO")); }, "N",
+    {"code", "", codes, {{"Error in: SELECT sipm_code", "0|0|", {"0|0|"}, Fatal}}},
+    {"references", "", [] { return textOf(withId(100).loadReferences()); },
+        {{"Error in: SELECT references", "null", {"null"}, Fatal}}},
+    {"taxa of a well", "INSERT INTO TAXONOCC (well_id, spec_id, disc_id) VALUES (7, 104, 'N')",
+        wellTaxa, thenLoading({"SELECT DISTINCT spec_id", "", {"", kAlba}})},
+    {"scheme", "", [] { return textOf(TaxonList::synonymySchemeName(5)); },
+        {{"SELECT name FROM", "", {""}}}},
+    {"disciplines", "INSERT INTO DISCS VALUES ('N', 'Nanno', 'Nan', 'Nannical')",
+        [] { return Discs()[1].adj.str(); },
+        {{"SELECT disc_id, disc_name", "", {"", "Nannical"}, Fatal}}},
+    {"discipline", "", [] { return std::string(1, categoryDisc("NANNO")); },
         {{"SELECT disc_id FROM", " ", {" "}, Fatal}}},
-    {"groupSetList",
-        [](Dictionary& d) {
-            groupSetList(1);
-            d.db.run("INSERT INTO groupset VALUES (3, 'a set')");
-            const std::string loaded = textOf(groupSetList(1)[0]);
-            return loaded + textOf(groupSetList(0)[0]);
-        },
-        "a seta set",
-        {{"", "a seta set", {"a seta set"}}, {"", "nullnull", {"nullnull", "a seta set"}}}},
-    {"groupSetName and groupSetId",
-        [](Dictionary& d) {
-            d.db.run("INSERT INTO groupset VALUES (3, 'a set')");
-            char name[31] = "before";
-            groupSetName(3, name);
-            return joined(name, groupSetId("a set"));
-        },
-        "a set|3|", {{"", "|3|", {"|3|"}}, {"", "a set|0|", {"a set|0|"}}}},
-    {"categoryList", [](Dictionary&) { return textOf(categoryList(1)[1]); }, "NANNO Nannofossils",
+    {"group sets", "INSERT INTO groupset VALUES (3, 'a set')",
+        [] { return textOf(groupSetList(1)[0]); }, {{"", "null", {"null", "a set"}}}},
+    {"group set", "INSERT INTO groupset VALUES (3, 'a set')", groupSet,
+        {{"", "|3|", {"|3|"}}, {"", "a set|0|", {"a set|0|"}}}},
+    {"categories", "", [] { return textOf(categoryList(1)[1]); },
         {{"", "", {"null", "null", "NANNO Nannofossils"}, EndsWithZero}}},
-    {"taxonGroupList",
-        [](Dictionary& d) {
-            d.db.run("INSERT INTO txgroup VALUES ('a group')");
-            return textOf(taxonGroupList(1)[0]);
-        },
-        "a group", {{"", "", {"null", "a group"}, EndsWithZero}}},
+    {"groups", "INSERT INTO txgroup VALUES ('a group')",
+        [] { return textOf(taxonGroupList(1)[0]); }, {{"", "", {"null", "a group"}, EndsWithZero}}},
 };
 
-struct Outcome {
-    std::string result;
-    Texts boxes;
-    short nextCursor;
-    bool fired;
-};
-
-// A lost connection is restored, so the operation goes on where another failure is fatal.
-constexpr const char* kLost = "ORA-03113: lost";
-constexpr const char* kBroken = "injected fault";
-
-Outcome runWith(const Operation& operation, int n, const std::string& call, const char* text)
+/// Runs an operation with its n-th such call failing: its result and the boxes.
+std::pair<std::string, Texts> runWith(
+    const Operation& operation, int n, const std::string& call, const char* text, bool fires = true)
 {
+    SCOPED_TRACE(operation.name + (" " + call) + std::to_string(n));
     Dictionary dictionary;
-    Outcome outcome;
+    if (*operation.setup)
+        dictionary.db.run(operation.setup);
+    std::string result;
     {
         const DriverFault fault(n, call, DriverFault::Once, "HY000", text);
-        outcome.result = operation.run(dictionary);
-        outcome.fired = fault.fired();
+        result = operation.run();
+        EXPECT_EQ(fires, fault.fired());
     }
-    outcome.boxes = dictionary.screen.texts();
+    const Texts boxes = dictionary.screen.texts();
     EXPECT_EQ(0, fatalError);
-    outcome.nextCursor = dbExecute("SELECT 1");
-    dbCloseCursor(outcome.nextCursor);
-    return outcome;
+    const short nextCursor = dbExecute("SELECT 1");
+    EXPECT_EQ(1, nextCursor) << "an open cursor was left";
+    dbCloseCursor(nextCursor);
+    return {result, boxes};
 }
 
-void expectReport(const Statement& statement, Texts boxes, const char* databaseText)
+TEST(Faults, OfAStatementAreReportedAndLeaveWhatWasThere)
 {
-    const std::size_t restored = statement.severity == Fatal; // asks before it reconnects
-    ASSERT_THAT(boxes, SizeIs((statement.report.empty() ? 1U : 2U) + restored));
-    EXPECT_THAT(boxes[0], StartsWith(statement.report));
-    if (!statement.report.empty())
-        boxes.erase(boxes.begin());
-    EXPECT_THAT(boxes[0], HasSubstr(databaseText));
+    for (const Operation& operation : kOperations) {
+        int n = 0;
+        for (const Statement& statement : operation.statements) {
+            ++n;
+            // A lost connection is restored, so the operation goes on where another is fatal.
+            const bool fatal = statement.severity == Fatal;
+            const char* text = fatal ? "ORA-03113: lost" : "injected fault";
+            std::vector<testing::Matcher<std::string>> reports = {HasSubstr(text)};
+            if (!statement.report.empty())
+                reports.insert(reports.begin(), StartsWith(statement.report));
+            if (fatal) // asks before it reconnects
+                reports.push_back(testing::_);
+            for (const char* call : {"SQLSetStmtAttr", "SQLExecDirect"}) {
+                if (statement.severity == EndsWithZero)
+                    continue;
+                const auto [result, boxes] = runWith(operation, n, call, text);
+                EXPECT_EQ(statement.failed, result) << operation.name << n;
+                EXPECT_THAT(boxes, testing::ElementsAreArray(reports)) << operation.name << n;
+            }
+        }
+        runWith(operation, n + 1, "SQLExecDirect", "all are listed", false);
+    }
 }
 
-class Faults : public testing::TestWithParam<Operation> {
-protected:
-    Faults() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
-};
-
-TEST_P(Faults, AStatementThatDoesNotRun)
+TEST(Faults, OfAFetchEndTheRowsWithoutAReport)
 {
-    int n = 0;
-    for (const Statement& statement : GetParam().statements) {
-        ++n;
-        if (statement.severity == EndsWithZero)
+    for (const Operation& operation : kOperations) {
+        int n = 0;
+        for (const Statement& statement : operation.statements) {
+            for (const std::string& expected : statement.unfetched) {
+                const auto [result, boxes] = runWith(operation, ++n, "SQLFetch", "injected fault");
+                EXPECT_EQ(expected, result) << operation.name << n;
+                EXPECT_THAT(boxes, IsEmpty()) << operation.name << n;
+            }
+        }
+    }
+}
+
+TEST(Faults, EndTheProcessWhereTheyAreFatal)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const Operation& operation : kOperations) {
+        const Statement& statement = operation.statements[0];
+        if (statement.severity == Reported)
             continue;
-        const char* text = statement.severity == Fatal ? kLost : kBroken;
-        for (const char* call : {"SQLSetStmtAttr", "SQLExecDirect"}) {
-            SCOPED_TRACE(call + std::to_string(n));
-            const Outcome outcome = runWith(GetParam(), n, call, text);
-            EXPECT_EQ(statement.failed, outcome.result);
-            EXPECT_EQ(1, outcome.nextCursor);
-            expectReport(statement, outcome.boxes, text);
-        }
-    }
-    EXPECT_FALSE(runWith(GetParam(), n + 1, "SQLExecDirect", kBroken).fired) << "all are listed";
-}
-
-TEST_P(Faults, ARowThatIsNotFetchedEndsTheRows)
-{
-    int n = 0;
-    for (const Statement& statement : GetParam().statements) {
-        for (const std::string& result : statement.unfetched) {
-            const Outcome outcome = runWith(GetParam(), ++n, "SQLFetch", kBroken);
-            EXPECT_TRUE(outcome.fired) << n;
-            EXPECT_EQ(result, outcome.result) << n;
-            EXPECT_THAT(outcome.boxes, IsEmpty()) << n;
-            EXPECT_EQ(1, outcome.nextCursor) << n;
-        }
+        const auto run = [&operation] {
+            Dictionary dictionary;
+            dictionary.screen.echo();
+            const DriverFault fault(1, "SQLExecDirect");
+            operation.run();
+        };
+        const bool quiet = statement.severity == EndsWithZero;
+        EXPECT_EXIT(run(), testing::ExitedWithCode(quiet ? 0 : 1),
+            quiet ? "^box: [^\n]*injected fault\n$"
+                  : "^box: " + statement.report + "[^\n]*\nbox: [^\n]*injected fault\n$");
     }
 }
-
-TEST_P(Faults, AStatementThatDoesNotCloseIsReportedByTheSession)
-{
-    int n = 0;
-    for (Outcome outcome; (outcome = runWith(GetParam(), ++n, "SQLFreeHandle", kBroken)).fired;) {
-        EXPECT_EQ(GetParam().done, outcome.result);
-        EXPECT_THAT(outcome.boxes, SizeIs(1));
-        EXPECT_EQ(2, outcome.nextCursor) << "its number is lost";
-    }
-    EXPECT_EQ(static_cast<int>(GetParam().statements.size()) + 1, n);
-}
-
-TEST_P(Faults, EndTheProcessWhereTheyAreFatal)
-{
-    const Statement& statement = GetParam().statements[0];
-    if (statement.severity == Reported)
-        return;
-    Dictionary dictionary;
-    dictionary.screen.echo();
-    const DriverFault fault(1, "SQLExecDirect");
-    const bool quiet = statement.severity == EndsWithZero;
-    EXPECT_EXIT(GetParam().run(dictionary), testing::ExitedWithCode(quiet ? 0 : 1),
-        quiet ? "^box: [^\n]*injected fault\n$"
-              : "^box: " + statement.report + "[^\n]*\nbox: [^\n]*injected fault\n$");
-}
-
-INSTANTIATE_TEST_SUITE_P(Operations, Faults, testing::ValuesIn(kOperations));
 
 } // namespace
