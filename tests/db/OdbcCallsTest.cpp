@@ -6,7 +6,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <ostream>
 #include <string>
 #include <vector>
 
