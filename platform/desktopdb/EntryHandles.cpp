@@ -15,7 +15,7 @@ SQLRETURN allocateEnvironment(SQLHANDLE* out)
     *out = environments().add(environment.get());
     if (!*out)
         return SQL_ERROR;
-    environment.release();
+    static_cast<void>(environment.release()); // the handle owns it now
     return SQL_SUCCESS;
 }
 
@@ -27,7 +27,7 @@ SQLRETURN allocateConnection(SQLHANDLE input, SQLHANDLE* out)
         if (!*out)
             return environment.diagnostics.fail("HY014", "too many connection handles");
         environment.connections.insert(*out);
-        connection.release();
+        static_cast<void>(connection.release()); // the handle owns it now
         return SQLRETURN(SQL_SUCCESS);
     });
 }
@@ -42,7 +42,7 @@ SQLRETURN allocateStatement(SQLHANDLE input, SQLHANDLE* out)
         if (!*out)
             return connection.diagnostics().fail("HY014", "too many statement handles");
         connection.statements().insert(*out);
-        statement.release();
+        static_cast<void>(statement.release()); // the handle owns it now
         return SQLRETURN(SQL_SUCCESS);
     });
 }

@@ -67,6 +67,8 @@ private:
 
     static void* asHandle(std::uint32_t index, std::uint32_t generation)
     {
+        // Never followed as an address.
+        // NOLINTNEXTLINE(performance-no-int-to-ptr)
         return reinterpret_cast<void*>(std::uintptr_t{generation} << 32 | index);
     }
 

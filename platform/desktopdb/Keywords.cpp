@@ -109,8 +109,8 @@ constexpr size_t bucketOf(std::string_view upper)
 }
 
 struct WordIndex {
-    std::array<signed char, kBuckets> head{};
-    std::array<signed char, std::size(kWords)> next{};
+    std::array<short, kBuckets> head{};
+    std::array<short, std::size(kWords)> next{};
 };
 
 constexpr WordIndex makeIndex()
@@ -120,7 +120,7 @@ constexpr WordIndex makeIndex()
     for (size_t i = 0; i < std::size(kWords); ++i) {
         const size_t bucket = bucketOf(kWords[i].text);
         index.next[i] = index.head[bucket];
-        index.head[bucket] = static_cast<signed char>(i);
+        index.head[bucket] = static_cast<short>(i);
     }
     return index;
 }

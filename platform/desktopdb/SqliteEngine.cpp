@@ -184,8 +184,7 @@ private:
 
     int bindCell(int number, const Cell& cell)
     {
-        // A null pointer would bind NULL; an empty text is not NULL.
-        const char* data = cell.bytes.data() ? cell.bytes.data() : "";
+        const char* data = cell.bytes.data(); // never null: an empty text is not NULL
         switch (cell.kind) {
         case ValueKind::Integer:
             return sqlite3_bind_int64(statement_, number, cell.integer);

@@ -65,10 +65,39 @@ TEST(Connect, AStringThatCannotBeRead)
     EXPECT_THAT(client.message(), HasSubstr("Dialect=Klingon"));
 }
 
-// A name that the engine alone would take for something else than a file.
+/// The working folder while it lives.
+class WorkingFolder {
+public:
+    explicit WorkingFolder(const std::filesystem::path& folder)
+        : before_(std::filesystem::current_path())
+    {
+        std::filesystem::current_path(folder);
+    }
+    ~WorkingFolder() { std::filesystem::current_path(before_); }
+    WorkingFolder(const WorkingFolder&) = delete;
+    WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+private:
+    std::filesystem::path before_;
+};
+
+// The engine alone would take these for something else than files of the working folder.
+TEST(Connect, NamesThatMeanSomethingToTheEngine)
+{
+    const WorkingFolder folder(std::filesystem::path(DatabaseFile().path()).parent_path());
+    for (const char* name : {":memory:", "file:a.db"}) {
+        Client client;
+        ASSERT_EQ(
+            client.connect(std::string("Driver=" DESKTOPDB_FILE ";Create=1;Database=") + name),
+            SQL_SUCCESS);
+        client.run("CREATE TABLE t (a INTEGER)");
+        EXPECT_TRUE(std::filesystem::exists(name)) << name;
+    }
+}
+
 TEST(Connect, OddFileNames)
 {
-    for (const char* name : {"a;b.db", "file:a.db", "with blank.db", "100%.db", "a?mode=memory"}) {
+    for (const char* name : {"a;b.db", "with blank.db", "100%.db", "a?mode=memory"}) {
         const DatabaseFile file(name);
         Client client;
         ASSERT_EQ(
