@@ -48,14 +48,9 @@ bool isQuoting(const Draft& draft)
 
 class DraftReader {
 public:
-    explicit DraftReader(bool genusMarkBehind)
-        : genusMarkBehind_(genusMarkBehind)
-    {
-    }
-
     Draft read(const NameParts& parts)
     {
-        place(kGenus, marked(kGenus, parts.genusMark, parts.genus, genusMarkBehind_));
+        place(kGenus, marked(kGenus, parts.genusMark, parts.genus));
         place(kSubgenus, parts.subgenus);
         std::string species = parts.species;
         std::string further =
@@ -78,12 +73,12 @@ private:
 
     void addMark(int number, std::string_view word) { at(number) = joined(at(number), word); }
 
-    // The part with the mark of its column, on the side where such a mark stands.
-    static std::string marked(const PartSlots& part, const std::string& mark,
-        const std::string& name, bool preferBehind = false)
+    // The part with the mark of its column, behind it if such a mark stands nowhere else.
+    static std::string marked(
+        const PartSlots& part, const std::string& mark, const std::string& name)
     {
         const std::string_view word = markOf(mark);
-        const bool behind = accepts(part.post, word) && (preferBehind || !accepts(part.pre, word));
+        const bool behind = accepts(part.post, word) && !accepts(part.pre, word);
         return behind ? joined(name, mark) : joined(mark, name);
     }
 
@@ -147,7 +142,6 @@ private:
         }
     }
 
-    bool genusMarkBehind_;
     Draft draft_;
     std::vector<std::string> marksOfSpecies_;
 };
@@ -215,15 +209,15 @@ bool makeFit(Draft& draft)
     return !apart && fit(species, subspecies);
 }
 
-NameReading reading(const NameParts& parts, bool genusMarkBehind, std::string_view written)
+NameReading reading(const NameParts& parts, std::string_view written)
 {
     NameReading result;
-    Draft draft = DraftReader(genusMarkBehind).read(parts);
+    Draft draft = DraftReader().read(parts);
     const bool fits = makeFit(draft);
     // The sentence reader lets what has no room in the name run on into the author.
     result.taxon = fits ? taxonOf(draft, parts.year) : Taxon(std::string(written).c_str(), 0);
     result.fault = result.taxon.checkQualifiers();
-    result.exact = fits && isExact(result.taxon, written);
+    result.exact = isExact(result.taxon, written) && (fits || !result.taxon.has(slot::author));
     return result;
 }
 
@@ -231,20 +225,14 @@ bool isGood(const NameReading& reading) { return reading.exact && reading.fault 
 
 } // namespace
 
-NameReading readName(std::string_view written)
-{
-    return reading(partsOfName(written), false, written);
-}
+NameReading readName(std::string_view written) { return reading(partsOfName(written), written); }
 
 NameReading storedName(std::string_view written, const NameParts& parts)
 {
     const std::string name = written.empty() ? nameOfParts(parts) : std::string(written);
-    NameReading first = reading(parts, false, name);
+    NameReading first = reading(parts, name);
     if (isGood(first))
         return first;
-    NameReading markBehind = reading(parts, true, name);
-    if (isGood(markBehind))
-        return markBehind;
     NameReading whole = written.empty() ? first : readName(written);
     // Pieces without a species have left it to the rest of the name.
     if (isGood(whole) || (whole.fault == 0 && parts.species.empty()))

@@ -141,6 +141,13 @@ TEST(AbundanceFiles, GiveWhatTheCoreCountsBy)
     for (const long count : {0L, 1L, 2L, 10L, 11L})
         codes += scheme.abrForCount(count);
     EXPECT_EQ("RFCCA", codes);
+
+    for (int i = 1; i <= 12; ++i)
+        db.run("INSERT INTO ABNSCHMBR (scheme_id, entry_no) VALUES (2, " + std::to_string(20 + i)
+            + ")");
+    EXPECT_EQ(
+        1, importAll({{"levels.csv", "scheme,entry_no,abr,min\nPer field,5,V,90\n"}}, log).stored())
+        << "the levels of another scheme do not count";
 }
 
 } // namespace

@@ -28,8 +28,9 @@ const CommandCase kCommands[] = {
         "number  category  name\n"
         "     1  FORAM     Alphina alba d'Eta 1901\n"
         "     3  FORAM     Alphina (Deltina) rubra minor\n"
+        "     5  RAD       Betina cf. aff. x\n"
         "     4  RAD       Betina sp.\n"},
-    {"a genus in any letters", "taxa BETINA",
+    {"a genus in any letters", "taxa BETINA sp.",
         "number  category  name\n     4  RAD       Betina sp.\n"},
     {"a star, and a pattern in one text with the species", "taxa 'a* *br*'",
         "number  category  name\n     3  FORAM     Alphina (Deltina) rubra minor\n"},
@@ -38,7 +39,8 @@ const CommandCase kCommands[] = {
     {"a subgenus in brackets", "taxa '(del*)'",
         "number  category  name\n     3  FORAM     Alphina (Deltina) rubra minor\n"},
     {"a species without wildcards is whole", "taxa '*' alb", "number  category  name\n"},
-    {"a category", "taxa --category ra*", "number  category  name\n     4  RAD       Betina sp.\n"},
+    {"a category", "taxa '*' sp. --category ra*",
+        "number  category  name\n     4  RAD       Betina sp.\n"},
     {"synonyms", "taxa '*' alba --synonyms",
         "number  category  name\n"
         "     1  FORAM     Alphina alba d'Eta 1901\n"
@@ -78,21 +80,28 @@ const CommandCase kCommands[] = {
         "name: Alphina alba d'Eta, 1901\n"
         "with italics: _Alphina alba_ d'Eta, 1901\n"
         "In the dictionary: number 1, FORAM, Alphina alba d'Eta 1901\n"},
-    {"a fault", "taxon Alphina alba cf. var. minor",
-        "part                      text\n"
-        "Genus                     Alphina\n"
-        "Species                   alba\n"
-        "Pre-Subspecies qualifier  cf. var.\n"
-        "Subspecies                minor\n"
+    {"a fault, found as an import stores it", "taxon Betina cf. aff. x",
+        "part                   text\n"
+        "Genus                  Betina\n"
+        "Pre-Species qualifier  cf. aff.\n"
+        "Species                x\n"
         "\n"
-        "name: Alphina alba cf. var. minor\n"
-        "with italics: _Alphina alba_ cf. var. _minor_\n"
-        "Pre-Subspecies qualifier: these marks cannot stand together; an import leaves all marks "
-        "in the name.\n"
+        "name: Betina cf. aff. x\n"
+        "with italics: _Betina_ cf. aff. _x_\n"
+        "Pre-Species qualifier: these marks cannot stand together; an import leaves all marks in "
+        "the name.\n"
+        "In the dictionary: number 5, RAD, Betina cf. aff. x\n"},
+    {"a name that is not there", "taxon Betina",
+        "part   text\n"
+        "Genus  Betina\n"
+        "\n"
+        "name: Betina\n"
+        "with italics: _Betina_\n"
         "The name is not in the dictionary.\n"},
     {"no name", "taxon ' '", "", "zonaris: There is no name in this text.\n"},
     {"a ladder", "abundance counts", kLadder},
     {"a count", "abundance 1 4", kLadder + "A count of 4 is 5, Some.\n"},
+    {"a code", "abundance Counts R", kLadder + "The code R stands for 0.\n"},
     {"a code that is a number, too", "abundance Counts 5",
         kLadder
             + "The code 5 stands for 10.\n"
@@ -110,8 +119,8 @@ protected:
         folder.write("categories.csv", "category,disc_id\nFORAM,M\nRAD,M\n");
         folder.write("taxa.csv",
             "category,name,author,year,code\nFORAM,Alphina alba,d'Eta,1901,70\n"
-            "FORAM,Alphina cf. alba,,,\nFORAM,Alphina (Deltina) rubra minor,,,\nRAD,Betina "
-            "sp.,,,\n");
+            "FORAM,Alphina cf. alba,,,\nFORAM,Alphina (Deltina) rubra minor,,,\n"
+            "RAD,Betina sp.,,,\nRAD,Betina cf. aff. x,,,\n");
         folder.write("list_synonymy.csv", "name,preferred_name\nAlphina cf. alba,Alphina alba\n");
         folder.write("schemes.csv", "scheme_id,name\n1,Counts\n");
         folder.write("levels.csv",

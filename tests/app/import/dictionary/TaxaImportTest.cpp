@@ -46,6 +46,10 @@ protected:
         names.insert(names.end(), GetParam().names.begin(), GetParam().names.end());
         EXPECT_EQ(names, namesOf(db));
         EXPECT_EQ(GetParam().uses, usesOf(db));
+        EXPECT_THAT(db.rows("SELECT g.cat_mnem FROM GENUS g WHERE g.cat_mnem NOT IN"
+                            " (SELECT cat_mnem FROM CATEGORY)"),
+            IsEmpty())
+            << "categories come with the first of their taxa";
         const Lines before = dictionariesOf(db);
         EXPECT_EQ(0, importAll(GetParam().files, log).stored()) << "a second import";
         EXPECT_EQ(before, dictionariesOf(db));
@@ -66,6 +70,12 @@ const FileCase kTaxa[] = {
             "RAD,Betina,cf.,nova,,d'Eta,1990,AB1,70\n"
             "RAD,Betina,,nova,minor,,,,\n"}},
         {}, {"4 RAD Betina cf. nova d'Eta 1990", "5 RAD Betina nova minor"}},
+    {"doubt about a species in a column of its own",
+        {{"taxa.csv", "category,genus,species_modifier,species\nRAD,Betina,?,nova\n"}},
+        {at(2)
+            + "adjusted: name \"Betina ? nova\": reads back as \"Betina nova?\"; as published it "
+              "is kept in the notes"},
+        {"4 RAD Betina nova? [As published: Betina ? nova]"}},
     {"a name that does not come back as written",
         {{"taxa.csv", "category,name\nRAD,Betina nova s.l.\n"}},
         {at(2)
@@ -130,10 +140,12 @@ const FileCase kTaxa[] = {
         {"4 NANNO Betina nova"}},
     {"categories made of groups",
         {{"taxa.csv",
-            "taxon_group,disc_id,name\nbenthic_forams,M,Betina nova\nrads,M,Betina nova\n"}},
+            "category,taxon_group,disc_id,name\n,benthic_forams,M,Betina nova\n"
+            ",rads,M,Betina nova\npollen and spores,rads,P,Betina nova\n"}},
         {"taxa.csv: note: taxon_group: benthic_forams is category BFORA",
-            "taxa.csv: note: taxon_group: rads is category RAD"},
-        {"4 BFORA Betina nova", "5 RAD Betina nova"}},
+            "taxa.csv: note: taxon_group: rads is category RAD",
+            "taxa.csv: note: category: pollen and spores is category PASPO"},
+        {"4 BFORA Betina nova", "5 RAD Betina nova", "6 PASPO Betina nova"}},
     {"no category", {{"taxa.csv", "name\nAlphina alba\nBetina nova\n"}}, {kNoCategory},
         {"4 - Alphina alba", "5 - Betina nova"}},
     {"notes of the file", {{"taxa.csv", "category,name,notes\nRAD,Betina s.l.,it's old\n"}},
@@ -169,6 +181,16 @@ const FileCase kSynonyms[] = {
     {"names that are there, in their common category",
         {{kSynonymy, "name,preferred_name\nAlphina rubra,Alphina alba\n"}}, {kScheme}, {},
         {"list: 3 -> 1"}},
+    {"the category that both have, else each its own",
+        {{"taxa.csv", "category,name\nRAD,Betina nova\n"},
+            {kSynonymy,
+                "name,preferred_name\nBetina nova,Alphina alba\nAlphina rubra,Betina nova\n"}},
+        {kScheme}, {"4 RAD Betina nova"}, {"list: 3 -> 4", "list: 4 -> 2"}},
+    {"a recorded spelling that is not the dictionary's",
+        {{kSynonymy, "name,preferred_name\nALPHINA rubra,Alphina alba\n"}}, {kScheme}, {},
+        {"list: 3 -> 1"},
+        {"1 FORAM Alphina alba Gamma", "2 RAD Alphina alba",
+            "3 FORAM Alphina rubra [As published: ALPHINA rubra]"}},
     {"a recorded name that is not there goes to the name to use",
         {{kSynonymy, "name,preferred_name\nBetina nova,Alphina rubra\n"}}, {kScheme},
         {"4 FORAM Betina nova"}, {"list: 4 -> 3"}},

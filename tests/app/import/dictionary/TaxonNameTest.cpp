@@ -88,7 +88,7 @@ const NameCase kNames[] = {
     {"Alphina betana (de Man & Eta, 1990)", "g:Alphina|s:betana|a:(de Man & Eta, 1990)"},
     {"Alphina betana minor de Man 1884", "g:Alphina|s:betana|b:minor|a:de Man|year=1884"},
     {"Alphina betana (Gamma)", "g:Alphina|s:betana|b:(Gamma)"},
-    {"Alphina betana 1200 m", "g:Alphina|s:betana|b:1200 m"},
+    {"Alphina betana Site 1148", "g:Alphina|s:betana|b:Site 1148"},
     {"Alphina betana sensu Gamma", "g:Alphina|s:betana|s>:sensu|a:Gamma"},
     {"Alphina sp. D sensu Eta et al 2007", "g:Alphina|s:sp. D|s>:sensu|a:Eta et al|year=2007"},
     // Letters.
@@ -104,6 +104,8 @@ const NameCase kNames[] = {
     {"Alphina betana with a remark that is longer than two parts of a name",
         "g:Alphina|s:betana with a remark that is|b:longer than two parts of a |a:name",
         "Alphina betana with a remark that is longer than two parts of a name"},
+    {"Alphina betana s.l. (with more than there is room for)",
+        "g:Alphina|s:betana s.l. (with more than|b:there is room for)"},
     {"Alphinabetinagammadeltaepsilonzeta alba", "g:Alphinabetinagammadeltaepsilon|s:alba",
         "Alphinabetinagammadeltaepsilon alba"},
     // Marks that cannot stand together.
