@@ -82,6 +82,7 @@ public:
 
 protected:
     ListNode* front() const { return front_; }
+    ListNode* back() const { return back_; }
 
 private:
     void link(ListNode* node);

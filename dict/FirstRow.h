@@ -1,0 +1,25 @@
+// dict/FirstRow.h
+#pragma once
+
+#include "db/Cursor.h"
+#include "db/ErrorReporter.h"
+
+#include <string>
+
+/// What a query for one row came to.
+enum class FirstRow { Taken, None, Failed };
+
+/// Hands the first row of a query to `take`. A statement that could not be run is reported; a fatal
+/// report returns only when a lost connection was restored.
+template <typename Take> FirstRow takeFirstRow(const std::string& sql, Fatal fatal, Take take)
+{
+    Cursor row(sql);
+    if (!row) {
+        reportDbFailure(sql, fatal);
+        return FirstRow::Failed;
+    }
+    if (!row.next())
+        return FirstRow::None;
+    take(row);
+    return FirstRow::Taken;
+}
