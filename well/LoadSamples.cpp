@@ -17,7 +17,7 @@ std::unique_ptr<Sample> newSample(long well_id, const SampleRow& row)
     auto s = std::make_unique<Sample>(
         well_id, row.samp_id, row.top, row.type.c_str(), row.grid_x, row.grid_y, row.base);
     s->label = row.label; // as in the row, so not an edit
-    s->SetCreated(row.created, row.creator.c_str());
+    s->SetCreated(row.created, row.creator.c_str(), 0);
     s->SetModified(row.modified, row.modifier.c_str());
     return s;
 }

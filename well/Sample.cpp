@@ -68,11 +68,15 @@ void Sample::SetGrid(long x, long y)
     saved = 0;
 }
 
-void Sample::SetCreated(Date date, const char* userAbr)
+void Sample::SetCreated(Date date, const char* userAbr, char disc)
 {
     created = date;
     if (userAbr && *userAbr)
         creator = userAbr;
+    for (Smpdtl* record : details) {
+        if (disc == 0 || record->disc == disc)
+            record->modified = date;
+    }
 }
 
 void Sample::SetModified(Date date, const char* userAbr)

@@ -3,12 +3,20 @@
 
 #include "util/Date.h"
 #include "util/FixedText.h"
+#include "util/OwningList.h"
+#include "well/SlithList.h"
+#include "well/Smpdtl.h"
+#include "well/SrAge.h"
 #include "well/Watched.h"
 
 #include <array>
+#include <iosfwd>
+#include <string>
 #include <string_view>
+#include <vector>
 
 struct SampleRow;
+class TaxonList;
 
 /// Whether a depth (in whatever unit) counts as zero, which means: not given.
 bool isAbsentDepth(float depth);
@@ -16,9 +24,16 @@ bool isAbsentDepth(float depth);
 /// One rock sample of a well: a depth or depth interval, a type code, a label, its grid position
 /// and who made and changed it when. Depths are metres. What a sample's depth is, for order,
 /// matching and display: its base, or its top when it has no base. A sample belongs to the list
-/// that it is put into; that list's owner destroys it.
+/// that it is put into; that list's owner destroys it. It owns its details with their occurrences,
+/// its lithologies and its ages.
+///
+/// Null texts count as empty. A detail record is named by the letter of its discipline and an
+/// analyst key; the empty key stands for any analyst, and the first record of the discipline is
+/// meant then.
 class Sample {
 public:
+    using Smpdtl = ::Smpdtl;
+
     /// A sample made in memory, in no table yet: `samp_id` 0, `saved` 0. Depths in `units` ('F' is
     /// feet), a missing one taken from the other; the type as `enteredSampleType` reads it (null:
     /// "CU"). Created and changed by the current user, at no date.
@@ -71,8 +86,9 @@ public:
     /// Each value that differs is stored and clears `saved`.
     void SetGrid(long x, long y);
     /// An empty abbreviation leaves the one that is there. `saved` stays: these two travel with the
-    /// row.
-    void SetCreated(Date date, const char* userAbr);
+    /// row. The first also dates the change of the details: those of discipline `disc`, of all
+    /// when that is 0.
+    void SetCreated(Date date, const char* userAbr, char disc);
     void SetModified(Date date, const char* userAbr);
     void ClearMarks();
 
@@ -84,6 +100,117 @@ public:
     /// that `samp_id`, the change being the current user's. A failure is reported, not fatal. Does
     /// not commit, and leaves `saved` to the caller, who knows when the change is permanent.
     void Update();
+
+    // --- details ---
+
+    /// The first such record, or null.
+    Smpdtl* FindDetails(char disc, const char* analyst) const;
+    /// 1 when a record of any discipline is that analyst's.
+    int HasAnalyst(const char* analyst) const;
+    /// 1 when any record of the discipline is barren.
+    int IsDisciplineBarren(char disc) const;
+    /// A record made by the user in place of the one there, which is destroyed with its
+    /// occurrences: changed today by the current user, not `inDb`. Clears `saved`.
+    Smpdtl* AddDetails(char disc, const char* analyst, const char* picker, const char* source,
+        const char* notes, char barren);
+    /// The same by a loader: without notes, `inDb`; the details of the discipline count as loaded.
+    Smpdtl* AddDetailsFromDb(char disc, const char* analyst, const char* picker, const char* source,
+        char barren, Date changed, const char* changedBy);
+    /// Fields of the record that is there, weight, factors and notes emptied. Without one: fatal
+    /// report.
+    void UpdDtl(char disc, const char* analyst, const char* picker, const char* source, char barren,
+        Date changed, const char* changedBy);
+    /// Cut to 240 bytes. Without the record one of no analyst is made, changed today, `inDb`, and
+    /// the details of the discipline count as loaded.
+    void SetNotes(char disc, const char* analyst, const char* notes);
+    /// Appends a blank and as much of the text as fits; nothing when not even one byte would, and
+    /// without the record.
+    void AppendNotes(char disc, const char* analyst, const char* text);
+    void SetWeight(char disc, const char* analyst, float weight);
+    /// Without the record: a report.
+    void SetSplitFactors(char disc, const char* analyst, float coarse, float medium, float fine);
+    /// The record, which is no longer `inDb`, or null.
+    Smpdtl* SetBarren(char disc, const char* analyst, int flag);
+    /// Date and user, each only where there is none yet unless `force` is not 0. The record is no
+    /// longer `inDb` either way.
+    void SetDetailsModified(
+        char disc, const char* analyst, Date date, const char* userAbr, int force);
+    /// Destroys all such records with their occurrences; the details of the discipline count as
+    /// not loaded.
+    void RemoveDetails(char disc, const char* analyst);
+    /// Moves the record to another discipline; the occurrences of both are no longer saved.
+    void ChangeDiscipline(char oldDisc, char newDisc, const char* analyst);
+    /// Reads the record from SMPDTL, unless `analyst` is given and it is there; with an empty
+    /// `analyst` the first row of the discipline becomes a record of no analyst. Failure: fatal
+    /// report of the database's text; when a lost connection was restored, nothing is read.
+    void LoadDetails(char disc, const char* analyst);
+    /// The analyst keys that SMPDTL has for the sample in the discipline (0: in any), in place of
+    /// what is in `out`. A failure is reported and leaves `out`.
+    void ListAnalysts(char disc, std::vector<std::string>& out) const;
+    /// Over all records the smallest positive `proximal` and the largest positive `distal`, each 0
+    /// when there is none.
+    void ProximalDistal(long* minProximal, long* maxDistal) const;
+    /// `count` scaled from the record's weight to the weight `reference`; as it is when `apply` or
+    /// the split switch of the discipline is 0, and without a record or a weight.
+    float ScaledCount(char disc, const char* analyst, int apply, float reference, int count) const;
+    /// Reads the split switches from the current user's preferences; on where there is none.
+    static void LoadSplitSwitches();
+
+    // --- occurrences; here a discipline of 0 stands for every one, unless said otherwise ---
+
+    /// Takes `f` over into the record. `markChanged` not 0: the occurrences of the discipline are
+    /// no longer saved. Without the record: fatal report. Discipline 0 names none.
+    void AddOccurrence(Fssabnd* f, char disc, const char* analyst, int markChanged);
+    /// Destroys the record's occurrences; they count as saved and as not completely loaded. Without
+    /// the record: a report. Discipline 0 names none.
+    void ClearOccurrences(char disc, const char* analyst);
+    /// Over all such records. Discipline 0 names none.
+    int CountOccurrences(char disc, const char* analyst) const;
+    /// Writes a line break and the text of each occurrence of the record. Without it: a report.
+    /// Discipline 0 names none.
+    void PrintOccurrences(char disc, const char* analyst, std::ostream& stream) const;
+    /// 1 when an occurrence of the taxon counts: with `suspectOnly` not 0 a reworked or caved one,
+    /// else one that `countsForRange`.
+    int HasTaxon(
+        long spec_id, int mode, int exclude, char disc, const char* analyst, int suspectOnly) const;
+    /// Marks the taxon's occurrences that count for that end of its range, in modes 1 and 2; the
+    /// others keep their mark. In higher modes takes the mark off all.
+    void MarkRange(long spec_id, int mode, int exclude, char disc);
+    /// Adds the taxa found, those that the list has not: in its order when it has one, else at the
+    /// end. Each is read from the dictionary.
+    void CollectTaxa(char disc, TaxonList& taxa) const;
+    /// Appends the identifiers found that are not among the first `*count` entries and raises
+    /// `*count`; the caller has made room for all.
+    void CollectSpecIds(char disc, long* ids, int* count) const;
+    /// Orders the record's occurrences as their taxa stand in `taxa` (a missing taxon behind them),
+    /// then, when `byCount` is not 0, by decreasing count; equal ones keep their order.
+    void SortOccurrences(char disc, const char* analyst, const TaxonList& taxa, int byCount);
+    /// In the record the last occurrence of one taxon becomes one of the other, or is merged into
+    /// the last one that is there. Nothing when both are the same taxon.
+    void ReplaceTaxon(char disc, const char* analyst, long oldSpec, long newSpec);
+    /// 1 when any occurrence of the record has an abundance code.
+    int HasAbundanceText(char disc, const char* analyst) const;
+
+    // --- lithology and ages ---
+
+    /// Reads the sample's lithologies in place of those there. A failure is reported.
+    void LoadLithology();
+    /// 1 when it has any; they are read first unless they were.
+    int HasLithology();
+    void ClearLithology();
+    /// Takes `s` over.
+    void AddSlith(Slith* s);
+    /// Reads the age of an interpretation in place of the one there; zeroes without a row. A
+    /// failure is reported and leaves none.
+    void LoadSrAge(long interp_id);
+    /// The first age of the interpretation; zeroes are added when there is none. Stays the
+    /// sample's.
+    SrAge* GetSrAge(long interp_id);
+    /// 1 when an age of the interpretation has a ratio, an age or an age below.
+    int HasSrAge(long interp_id) const;
+    /// Writes the age of the interpretation in place of the row. A failure is reported. Does not
+    /// commit.
+    void SaveSrAge(long interp_id);
 
     // --- texts, each valid until the next call of the same function ---
 
@@ -127,6 +254,9 @@ public:
     std::array<int, 4> marks{1, 1, 1, 1};
     float shift = 0; ///< metres
     unsigned char shiftSet = 0;
+    OwningList<Smpdtl> details;
+    SlithList lithology;
+    SrAgeList ages;
 
 private:
     // All members that indices are made from get their values here and are not assigned afterwards:
@@ -140,6 +270,10 @@ private:
     };
     Sample(long wellId, long sampId, Interval depths, std::string_view code);
     Sample(long wellId, const SampleRow& row);
+
+    /// As `FindDetails`, discipline 0 standing for every one.
+    Smpdtl* recordIn(char disc, const char* analyst) const;
+    Smpdtl* newDetails(char disc, const char* analyst);
 
     float shown(float metres, char units, int negate, int withShift) const;
     bool store(Depth& depth, float metres);

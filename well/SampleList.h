@@ -51,6 +51,21 @@ public:
     /// identifier is not in the list. Valid until the next `Sample::DepthLabel`.
     const char* DepthLabelOf(long samp_id, char units) const;
 
+    /// The sample that holds the top (`mode` 1) or base of the taxon's range: the shallowest, or
+    /// deepest, by its shifted depth in which an occurrence of the taxon in the discipline (0: any)
+    /// by the analyst (empty: any) counts as `countsForRange` has it with `exclude`; when there is
+    /// none, with `fallbackExclude`. Its occurrences are marked (`Sample::MarkRange`). Null when
+    /// there is none either. `typeMask` has the bits of the sample types that may hold it;
+    /// `useWindow` not 0 leaves samples more than 0.01 m outside `top` to `base` (metres) out,
+    /// `requireAnalyst` not 0 those without any details by the analyst.
+    Sample* FindRangeSample(long spec_id, int mode, int exclude, long typeMask, char disc,
+        int fallbackExclude, int useWindow, float top, float base, int requireAnalyst,
+        const char* analyst) const;
+    /// 1 when a sample from `top` to `base` (metres, shifted depths, 0.01 m beyond allowed) has the
+    /// taxon in the discipline (0: any) by the analyst (empty: any).
+    int HasOccurrenceInRange(
+        long spec_id, char disc, const char* analyst, float top, float base) const;
+
 private:
     /// Puts `s` before that node (null: at the end), whose place it is, and lets the indices
     /// follow.

@@ -37,6 +37,7 @@ void Well::Reset()
     occurrencesLoaded.fill(0);
     slithLoaded = 0;
     coresState = 0;
+    tvd.reset();
 }
 
 void Well::SetUnits(char c) { units = c == '\'' || c == 'F' || c == 'f' ? 'F' : 'M'; }

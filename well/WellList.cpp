@@ -5,11 +5,7 @@
 
 #include <algorithm>
 
-WellList::~WellList()
-{
-    while (const Well* w = pop())
-        delete w;
-}
+WellList::~WellList() = default;
 
 void WellList::InsertByName(Well* w)
 {

@@ -1,13 +1,13 @@
 // well/WellList.h
 #pragma once
 
-#include "util/GList.h"
+#include "util/OwningList.h"
 
 class Well;
 
 /// Wells in ascending order of name (bytes). Owns them: what is in the list is destroyed with it.
 /// No operation moves the list's own cursor, except that insertion does as `insert` does.
-class WellList : public TypedList<Well> {
+class WellList : public OwningList<Well> {
 public:
     ~WellList();
 

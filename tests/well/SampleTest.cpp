@@ -115,7 +115,7 @@ TEST(SampleSetters, KeepTheUserUnlessAnotherIsNamed)
     const Restore<FixedText<5>> user(currentUserAbr, "XYZ");
     Sample made(1, 1, "CU", 'M'), read(1, 2, 1, "CU", 0, 0, 1);
     EXPECT_EQ("XYZ|XYZ|", joined(read.creator.view(), read.modifier.view()));
-    made.SetCreated(Date(5, 3, 1998), "");
+    made.SetCreated(Date(5, 3, 1998), "", 0);
     made.SetModified(Date(), "LONGNAME");
     EXPECT_EQ("1998-03-05||XYZ|LONGN|",
         joined(made.created.isoText(), made.modified.isoText(), made.creator.view(),
