@@ -38,3 +38,11 @@ int Cursor::close()
 }
 
 bool runStatement(const std::string& sql) { return static_cast<bool>(Cursor(sql)); }
+
+bool runOrReport(const std::string& sql, Fatal fatal)
+{
+    const bool ran = runStatement(sql);
+    if (!ran)
+        reportDbFailure(sql, fatal);
+    return ran;
+}

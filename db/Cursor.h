@@ -1,6 +1,8 @@
 // db/Cursor.h
 #pragma once
 
+#include "db/ErrorReporter.h"
+
 #include <string>
 #include <string_view>
 
@@ -42,3 +44,6 @@ private:
 /// Runs a statement that returns no rows and closes it. False when it could not be run; nothing is
 /// reported then.
 bool runStatement(const std::string& sql);
+
+/// The same, reporting a failure as `reportDbFailure` does.
+bool runOrReport(const std::string& sql, Fatal fatal);

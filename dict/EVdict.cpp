@@ -24,12 +24,6 @@ std::string whereTaxonAndType(const EVdict& entry)
         + " AND ev_type=" + sql::quoteChar(entry.ev_type);
 }
 
-void runOrEnd(const std::string& sql)
-{
-    if (!runStatement(sql))
-        reportDbFailure(sql, Fatal::Yes);
-}
-
 std::string deleteFrom(const char* table, long ev_id)
 {
     return "DELETE FROM " + sql::table(table) + whereEntry(ev_id);
@@ -170,7 +164,7 @@ void EVdict::rewrite(const Taxon* taxon, char type)
         sql += ",spec_id=" + sql::integer(taxon->spec_id());
         spec_id = taxon->spec_id();
     }
-    runOrEnd(sql + whereEntry(ev_id_));
+    runOrReport(sql + whereEntry(ev_id_), Fatal::Yes);
 }
 
 void EVdict::findByName()
@@ -190,24 +184,26 @@ int EVdict::setGenerate(char flag)
             return 1;
     }
     generate = flag;
-    runOrEnd("UPDATE " + sql::table("EVENTDIC") + " SET generate=" + sql::quoteChar(flag)
-        + whereEntry(ev_id_));
+    runOrReport("UPDATE " + sql::table("EVENTDIC") + " SET generate=" + sql::quoteChar(flag)
+            + whereEntry(ev_id_),
+        Fatal::Yes);
     return 0;
 }
 
 void EVdict::rename(const char* newName)
 {
     const FixedText<100> taken(newName);
-    runOrEnd("UPDATE " + sql::table("EVENTDIC") + " SET name=" + sql::quote(taken.view())
-        + whereEntry(ev_id_));
+    runOrReport("UPDATE " + sql::table("EVENTDIC") + " SET name=" + sql::quote(taken.view())
+            + whereEntry(ev_id_),
+        Fatal::Yes);
     name_ = taken;
     ++changes_;
 }
 
 void EVdict::deleteEvent()
 {
-    runOrEnd(deleteFrom("EVENTDIC", ev_id_));
-    runOrEnd(deleteFrom("EVENTS", ev_id_));
+    runOrReport(deleteFrom("EVENTDIC", ev_id_), Fatal::Yes);
+    runOrReport(deleteFrom("EVENTS", ev_id_), Fatal::Yes);
 }
 
 std::string EVdict::nameOfTaxon()
