@@ -31,8 +31,7 @@ private:
 /// Null after a reported failure.
 std::unique_ptr<MainWindow> makeWindow(const ConnectionSettings& settings)
 {
-    const bool named = !settings.databaseFile.empty() || !settings.connectString.empty();
-    const std::string error = named ? openDatabase(settings) : std::string();
+    const std::string error = settings.isNamed() ? openDatabase(settings) : std::string();
     if (!error.empty()) {
         reportError(error);
         return nullptr;
@@ -41,7 +40,7 @@ std::unique_ptr<MainWindow> makeWindow(const ConnectionSettings& settings)
     // The message boxes of the first reading already belong to the window.
     _app->setRootWindow(windowOf(main.get()));
     main->show();
-    if (named)
+    if (settings.isNamed())
         main->showDatabase();
     return main;
 }

@@ -2,7 +2,7 @@
 #include "app/Entry.h"
 #include "app/OpenMainWindow.h"
 #include "app/batch/CommandLine.h"
-#include "app/batch/Commands.h"
+#include "app/batch/RunCommand.h"
 
 int main(int argc, char** argv)
 {
@@ -10,7 +10,7 @@ int main(int argc, char** argv)
     if (const auto status = readCommandLine(argc, argv, &options))
         return *status;
     const StartArguments start = startArguments(argc, argv);
-    if (options.command == BatchCommand::None)
+    if (!options.run)
         return options.picture.empty() ? openMainWindow(start, options.connection)
                                        : saveMainWindow(start, options.connection, options.picture);
     // Without a toolkit of its own the process shows its message boxes on the console.

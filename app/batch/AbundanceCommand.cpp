@@ -1,7 +1,6 @@
 // app/batch/AbundanceCommand.cpp
-#include "app/batch/AbundanceCommand.h"
-
-#include "app/batch/BatchOptions.h"
+#include "app/batch/Command.h"
+#include "app/batch/Commands.h"
 #include "app/batch/Failure.h"
 #include "app/batch/TextTable.h"
 #include "db/ItemList.h"
@@ -17,6 +16,11 @@
 namespace {
 
 using enum TextTable::Align;
+
+struct Values {
+    std::string scheme; ///< name or number
+    std::string amount; ///< a count or a code; empty: the ladder alone
+};
 
 // The number of the scheme; 0 with a text for the user.
 int findScheme(const std::string& text, std::string* error)
@@ -81,17 +85,27 @@ int writeMeaning(const Abns& scheme, const std::string& amount)
     return kDone;
 }
 
-} // namespace
-
-int showAbundance(const std::string& scheme, const std::string& amount)
+int showAbundance(const Values& values)
 {
     std::string error;
-    const int id = findScheme(scheme, &error);
+    const int id = findScheme(values.scheme, &error);
     if (id == 0)
         return failed(error);
     const Abns& levels = *schemeById(id);
     writeLadder(levels);
     if (levels.levelCount() == 0)
         return failed("The scheme has no levels.");
-    return amount.empty() ? kDone : writeMeaning(levels, amount);
+    return values.amount.empty() ? kDone : writeMeaning(levels, values.amount);
+}
+
+} // namespace
+
+void addAbundance(CLI::App& app, BatchOptions* options)
+{
+    const auto values = std::make_shared<Values>();
+    CLI::App* abundance = addCommand(app, options, "abundance",
+        "Show the levels of an abundance scheme", [=] { return showAbundance(*values); });
+    abundance->add_option("SCHEME", values->scheme, "Name or number of the scheme")->required();
+    abundance->add_option("COUNT|CODE", values->amount,
+        "A count to see its level, or a code to see the count that it stands for");
 }

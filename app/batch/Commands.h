@@ -3,7 +3,17 @@
 
 #include "app/batch/BatchOptions.h"
 
-/// Carries a command out on a database session of its own: tables and counts go to the standard
-/// output, everything else to the standard error stream. Returns the exit status. A failure that
-/// the core calls fatal ends the process with status 1 instead.
-int runCommand(const BatchOptions& options);
+namespace CLI {
+class App;
+}
+
+// One function per command: it declares the command with its options. The table in CommandLine.cpp
+// lists them all, in the order of the help.
+
+void addCreate(CLI::App& app, BatchOptions* options);
+void addImport(CLI::App& app, BatchOptions* options);
+void addWells(CLI::App& app, BatchOptions* options);
+void addSamples(CLI::App& app, BatchOptions* options);
+void addTaxa(CLI::App& app, BatchOptions* options);
+void addTaxon(CLI::App& app, BatchOptions* options);
+void addAbundance(CLI::App& app, BatchOptions* options);

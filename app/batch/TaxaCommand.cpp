@@ -1,6 +1,7 @@
 // app/batch/TaxaCommand.cpp
+#include "app/batch/Command.h"
+#include "app/batch/Commands.h"
 #include "app/batch/Failure.h"
-#include "app/batch/TaxonCommands.h"
 #include "app/batch/TextTable.h"
 #include "app/import/TaxonName.h"
 #include "app/import/Words.h"
@@ -22,6 +23,14 @@ namespace {
 using enum TextTable::Align;
 
 constexpr const char* kAny = "%";
+
+struct TaxaQuery {
+    std::vector<std::string> patterns; ///< genus, species, subspecies; a subgenus in brackets
+    std::string category;              ///< a pattern
+    std::string codes;                 ///< "A-B" or one code; empty: any or none
+    std::string scheme;                ///< whose names to use are shown; empty: none
+    bool synonyms = false;             ///< names that have a name to use as well
+};
 
 // Both wildcards that people know; every kind of database takes this one from the core.
 std::string patternOf(std::string text)
@@ -133,8 +142,6 @@ void write(TaxonList& taxa, bool withCode, const Scheme& scheme)
     table.write(std::cout);
 }
 
-} // namespace
-
 int listTaxa(const TaxaQuery& query)
 {
     auto patterns = patternsOf(query);
@@ -155,4 +162,24 @@ int listTaxa(const TaxaQuery& query)
         taxa->loadPreferred(scheme.id, 0);
     write(*taxa, !query.codes.empty(), scheme);
     return kDone;
+}
+
+} // namespace
+
+void addTaxa(CLI::App& app, BatchOptions* options)
+{
+    const auto query = std::make_shared<TaxaQuery>();
+    CLI::App* taxa = addCommand(
+        app, options, "taxa", "List the names of the dictionary", [=] { return listTaxa(*query); });
+    taxa->add_option("PATTERN", query->patterns,
+        "Genus, species and subspecies, a subgenus in brackets; * stands for any letters, and what "
+        "is left out for any name");
+    taxa->add_option("--category", query->category, "Only of this category")->type_name("PATTERN");
+    taxa->add_option("--codes", query->codes, "Only with codes in this range, such as 100-200")
+        ->type_name("A-B");
+    taxa->add_flag(
+        "--synonyms", query->synonyms, "Names that another one is to be used for as well");
+    taxa->add_option("--scheme", query->scheme,
+            "Show the names to use of this synonymy scheme, synonyms included")
+        ->type_name("NAME");
 }

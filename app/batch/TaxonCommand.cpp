@@ -1,6 +1,8 @@
 // app/batch/TaxonCommand.cpp
+#include "app/batch/Command.h"
+#include "app/batch/Commands.h"
 #include "app/batch/Failure.h"
-#include "app/batch/TaxonCommands.h"
+#include "app/batch/Italics.h"
 #include "app/batch/TextTable.h"
 #include "app/import/TaxonName.h"
 #include "app/import/Words.h"
@@ -9,11 +11,9 @@
 #include <unistd.h>
 
 #include <iostream>
+#include <memory>
 
 namespace {
-
-constexpr std::string_view kItalicOn = "\x1B[3m";
-constexpr std::string_view kItalicOff = "\x1B[23m";
 
 std::string italicName(Taxon& taxon)
 {
@@ -57,31 +57,6 @@ int writeEntries(const NameReading& reading, const std::string& written)
     return kDone;
 }
 
-} // namespace
-
-std::string withItalics(std::string_view marked, bool terminal)
-{
-    const std::string_view on = terminal ? kItalicOn : "_";
-    const std::string_view off = terminal ? kItalicOff : "_";
-    std::string text;
-    bool italic = false;
-    const auto change = [&] {
-        const std::size_t end = text.find_last_not_of(' ') + 1;
-        italic ? text.insert(end, off) : text.append(on);
-        italic = !italic;
-    };
-    for (const char c : marked) {
-        if (c == '\\')
-            change();
-        else
-            text += c;
-    }
-    if (italic)
-        change();
-    text.resize(text.find_last_not_of(' ') + 1);
-    return text;
-}
-
 int showTaxon(const std::vector<std::string>& words, bool hasDatabase)
 {
     const std::string written = withSingleBlanks(joinedWords(words, 0, words.size()));
@@ -90,4 +65,18 @@ int showTaxon(const std::vector<std::string>& words, bool hasDatabase)
     NameReading reading = readName(written);
     writeReading(reading, written);
     return hasDatabase ? writeEntries(reading, written) : kDone;
+}
+
+} // namespace
+
+void addTaxon(CLI::App& app, BatchOptions* options)
+{
+    const auto words = std::make_shared<std::vector<std::string>>();
+    addCommand(
+        app, options, "taxon",
+        "Show how a written name is read and whether it is in the dictionary; reading needs no "
+        "database",
+        [=] { return showTaxon(*words, options->connection.isNamed()); }, DatabaseNeed::IfNamed)
+        ->add_option("TEXT", *words, "The name, with its marks and author")
+        ->required();
 }

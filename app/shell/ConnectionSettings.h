@@ -11,6 +11,8 @@ struct ConnectionSettings {
     int kind = 0;              ///< `dbKind`
     std::string ownerPrefix;   ///< in front of every table name, with its separator ("GEO.")
     std::string user;          ///< abbreviation (USERDEF.abr), may be empty
+
+    bool isNamed() const { return !databaseFile.empty() || !connectString.empty(); }
 };
 
 enum class FileAccess { Open, Create };

@@ -1,7 +1,7 @@
 // tests/app/import/dictionary/TaxonNameTest.cpp
 #include "app/import/TaxonName.h"
 
-#include "app/batch/TaxonCommands.h"
+#include "app/batch/Italics.h"
 #include "tests/taxonomy/TaxonOf.h"
 
 #include <ostream>
