@@ -4,6 +4,7 @@
 #include "db/Cursor.h"
 #include "db/ErrorReporter.h"
 #include "db/Literals.h"
+#include "dict/FirstRow.h"
 #include "taxonomy/TextArgument.h"
 #include "util/TextUtil.h"
 
@@ -14,17 +15,10 @@ namespace {
 
 std::string_view trimmed(const char* text) { return trimmedRight(trimmedLeft(orEmpty(text))); }
 
-/// Hands the first row of a query to `take`. False without one; a failed statement ends the
-/// process, unless a lost connection was restored.
-template <typename Take> bool takeFirstRow(const std::string& sql, Take take)
+/// Whether there was a row for `take`.
+template <typename Take> bool tookRow(const std::string& sql, Take take)
 {
-    Cursor row(sql);
-    if (!row)
-        reportDbFailureAs("Error in: " + sql, Fatal::Yes);
-    if (!row || !row.next())
-        return false;
-    take(row);
-    return true;
+    return takeFirstRow(sql, Fatal::Yes, take, "Error in: ") == FirstRow::Taken;
 }
 
 } // namespace
@@ -44,7 +38,7 @@ void Abns::addLevel(const char* abr, const char* levelName, int min, long output
 
 void Abns::loadByName(const char* schemeName)
 {
-    const bool found = takeFirstRow("SELECT scheme_id FROM " + sql::table("ABNSCHME")
+    const bool found = tookRow("SELECT scheme_id FROM " + sql::table("ABNSCHME")
             + " WHERE name=" + sql::quote(orEmpty(schemeName)),
         [this, schemeName](const Cursor& row) {
             name = schemeName;
@@ -57,7 +51,7 @@ void Abns::loadByName(const char* schemeName)
 
 void Abns::loadById(long id)
 {
-    const bool found = takeFirstRow(
+    const bool found = tookRow(
         "SELECT name FROM " + sql::table("ABNSCHME") + " WHERE scheme_id=" + sql::integer(id),
         [this, id](const Cursor& row) {
             name = row.text(1);
