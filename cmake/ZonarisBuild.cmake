@@ -20,6 +20,9 @@ if(ZONARIS_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   target_link_options(zonaris_flags INTERFACE -fsanitize=address,undefined)
 endif()
+if(ZONARIS_FUZZ)
+  target_compile_options(zonaris_flags INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # zonaris_target_name(util out) -> zonaris_util; platform/zapp -> zonaris_zapp
 function(zonaris_target_name folder out)
