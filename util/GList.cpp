@@ -60,11 +60,8 @@ void* GList::pop()
 {
     if (!back_)
         return nullptr;
-    ListNode* node = back_;
-    void* item = node->item;
-    if (current_ == node)
-        current_ = nullptr;
-    unlink(node);
+    void* item = back_->item;
+    removeAt(back_);
     return item;
 }
 
@@ -85,11 +82,15 @@ void* GList::next()
 
 void GList::remove()
 {
-    if (!current_)
-        return;
-    ListNode* node = current_;
-    current_ = nullptr;
-    unlink(node);
+    if (current_)
+        removeAt(current_);
+}
+
+void GList::removeAt(ListNode* place)
+{
+    if (current_ == place)
+        current_ = nullptr;
+    unlink(place);
 }
 
 void GList::moveUp()

@@ -42,6 +42,8 @@ public:
     /// Takes the item last returned by `next` out; nothing when there is none. The cursor stays,
     /// except on that very item (after `reset`): it moves on to the newer neighbour.
     void remove();
+    /// Takes the item of the node `place` of this list out. A cursor on it moves on.
+    void removeAt(ListNode* place);
     /// Moves the item last returned by `next` one place towards the front; the item that it
     /// overtook is what `next` returns then, so that a pass can compare again. At the front it
     /// stays and `next` returns it again. Meant right after `next`: after `remove` or `insert` it
