@@ -60,13 +60,19 @@ void reportError(const std::string& text)
         endProcess();
 }
 
+void reportFatal(const std::string& text)
+{
+    fatalError = 1;
+    reportError(text);
+}
+
 void reportDbFailure(const std::string& sql, Fatal fatal) { reportDbFailureAs(sql, fatal); }
 
 void reportDbFailureAs(const std::string& firstText, Fatal fatal)
 {
     reportError(firstText);
-    const std::string databaseText = dbErrorText();
     if (fatal == Fatal::Yes)
-        fatalError = 1;
-    reportError(databaseText);
+        reportFatal(dbErrorText());
+    else
+        reportError(dbErrorText());
 }

@@ -13,6 +13,10 @@ extern int fatalError;
 void reportError(const char* text);
 void reportError(const std::string& text);
 
+/// `reportError` with `fatalError` set just before: returns only when a lost connection was
+/// restored.
+void reportFatal(const std::string& text);
+
 enum class Fatal { No, Yes };
 
 /// The report of a statement that `dbExecute` could not run: first the statement, then the

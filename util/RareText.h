@@ -3,7 +3,9 @@
 
 #include <cstring>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
 
 /// A text of any length that is nearly always empty: one pointer, null for the empty text. For
 /// fields of objects that exist by the hundred thousand. Ends at a NUL inside, as fixed texts do.
@@ -21,6 +23,10 @@ public:
     }
     RareText(const char* text) // NOLINT(google-explicit-constructor)
         : RareText(std::string_view(text ? text : ""))
+    {
+    }
+    RareText(const std::string& text) // NOLINT(google-explicit-constructor)
+        : RareText(std::string_view(text))
     {
     }
     RareText(const RareText& other)

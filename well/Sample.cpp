@@ -3,13 +3,8 @@
 
 #include "db/CurrentUser.h"
 #include "db/Units.h"
+#include "taxonomy/TextArgument.h"
 #include "well/SampleType.h"
-
-namespace {
-
-std::string_view textOrEmpty(const char* text) { return text ? text : ""; }
-
-} // namespace
 
 Sample::Sample(long wellId, long sampId, Interval depths, std::string_view code)
     : well_id(wellId)
@@ -23,7 +18,7 @@ Sample::Sample(long wellId, long sampId, Interval depths, std::string_view code)
 
 Sample::Sample(float topDepth, float baseDepth, const char* typeText, char units)
     : Sample(0, 0, Interval(toMetres(topDepth, units), toMetres(baseDepth, units)),
-        enteredSampleType(textOrEmpty(typeText)))
+        enteredSampleType(orEmpty(typeText)))
 {
     creator = currentUserAbr.view();
     modifier = currentUserAbr.view();
@@ -31,7 +26,7 @@ Sample::Sample(float topDepth, float baseDepth, const char* typeText, char units
 
 Sample::Sample(long wellId, long sampId, float topDepth, const char* typeText, long gridX,
     long gridY, float baseDepth)
-    : Sample(wellId, sampId, Interval(topDepth, baseDepth), storedSampleType(textOrEmpty(typeText)))
+    : Sample(wellId, sampId, Interval(topDepth, baseDepth), storedSampleType(orEmpty(typeText)))
 {
     grid_x = gridX;
     grid_y = gridY;
@@ -88,9 +83,6 @@ void Sample::SetModified(Date date, const char* userAbr)
 
 void Sample::ClearMarks() { marks.fill(0); }
 
-long Sample::TypeBitOf(const char* code)
-{
-    return sampleTypeBit(knownSampleType(textOrEmpty(code)));
-}
+long Sample::TypeBitOf(const char* code) { return sampleTypeBit(knownSampleType(orEmpty(code))); }
 
-int Sample::IsKnownType(const char* code) { return sampleTypeBit(textOrEmpty(code)) != 0; }
+int Sample::IsKnownType(const char* code) { return sampleTypeBit(orEmpty(code)) != 0; }

@@ -11,6 +11,7 @@
 
 #include <array>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -221,6 +222,8 @@ public:
     /// (long yes, short no).
     const char* DepthLabel(char units, int shortForm, int showRange, int forceUnits, int withShift,
         int withLabel) const;
+    /// How reports name the sample: the long label with its range, in metres.
+    const char* DepthLabelInReports() const { return DepthLabel('M', 0, 1, 0, 0, -1); }
     /// "1000.00-1010.00m", or "1000.00m" without an interval.
     const char* DepthRangeText(char units, int withShift) const;
 
@@ -271,9 +274,7 @@ private:
     Sample(long wellId, long sampId, Interval depths, std::string_view code);
     Sample(long wellId, const SampleRow& row);
 
-    /// As `FindDetails`, discipline 0 standing for every one.
-    Smpdtl* recordIn(char disc, const char* analyst) const;
-    Smpdtl* newDetails(char disc, const char* analyst);
+    Smpdtl* replaceDetails(std::unique_ptr<Smpdtl> made, const char* analyst);
 
     float shown(float metres, char units, int negate, int withShift) const;
     bool store(Depth& depth, float metres);
