@@ -17,6 +17,7 @@ struct IGDLoad {
 };
 
 /// How to read the records of a type that stand between two samples, and the scheme of their terms.
+/// All records of a list of that type must be of its class.
 struct SampledRecords {
     struct Ends {
         long top_id;

@@ -12,13 +12,13 @@ IGDList::IGDList(int igd_type, int hierMin, int hierMax, Well* well, char unit, 
     , unit_(unit)
     , envsch_id_(envsch_id)
     , interp_id_(interp_id)
-    , places_(DepthOrder(kind().sameTop))
+    , places_(DepthOrder(igdKind().sameTop))
 {
     if (!well)
         return;
     well_id_ = well->well_id;
-    if (kind().load)
-        complete_ = kind().load(*this, {*well, hierMin, hierMax, schemeIds});
+    if (igdKind().load)
+        complete_ = igdKind().load(*this, {*well, hierMin, hierMax, schemeIds});
     changed_ = 0; // or a save would replace what could not be read by what could
 }
 
@@ -50,11 +50,11 @@ bool IGDList::contains(const IGDBase* record) const
 
 void IGDList::save(char unit, int negate)
 {
-    if (!kind().save)
+    if (!igdKind().save)
         return;
     if (unit && unit != unit_)
         changed_ = 1;
-    if (!changed_ || !kind().save(*this, unit ? unit : unit_, negate))
+    if (!changed_ || !igdKind().save(*this, unit ? unit : unit_, negate))
         return;
     dbCommit();
     changed_ = 0;

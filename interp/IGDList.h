@@ -82,11 +82,10 @@ public:
     bool isComplete() const { return complete_; }
 
 private:
-    const IGDKind& kind() const { return igdKindOf(igd_type_); }
+    const IGDKind& igdKind() const { return igdKindOf(igd_type_); }
     void refresh() const;
     void noteState() const;
-    bool covers(const IGDZone& zone) const;
-    void addCoverage(const IGDZone& zone);
+    void addCoverage(const IGDList& list);
     void joinSchemes();
 
     int igd_type_;
