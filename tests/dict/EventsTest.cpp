@@ -1,0 +1,356 @@
+#include "db/CurrentUser.h"
+#include "db/Preferences.h"
+#include "dict/EventLabels.h"
+#include "dict/compStd.h"
+#include "tests/support/Restore.h"
+#include "tests/taxonomy/DictionaryTest.h"
+
+#include <algorithm>
+#include <random>
+#include <sstream>
+
+#include <gmock/gmock.h>
+
+namespace {
+
+template <typename... Values> std::string joined(const Values&... values)
+{
+    std::ostringstream text;
+    ((text << values << '|'), ...);
+    return text.str();
+}
+
+/// A dictionary with events, and standards. Expected statements name tables with "@" in front.
+struct Events : Dictionary {
+    Events()
+    {
+        db.run("INSERT INTO EVENTDIC VALUES (1, 100, 'R', 'N', 'Alpha', 'AB', '1998-03-05'),"
+               " (2, 100, 'R', 'Y', 'Beta', NULL, NULL), (3, 0, 'S', 'N', 'Alpha', NULL, NULL),"
+               " (4, 104, 'S', 'N', 'Alphina alba', 'CD', '1998-04-06')");
+        db.run("INSERT INTO EVENTS (ev_id, well_id) VALUES (2, 7), (4, 7)");
+        db.run(
+            "INSERT INTO CMPSTD VALUES (7, 'Up', 'AB', '1998-03-05', 0, 100, 'Ma'),"
+            " (8, 'Down', NULL, NULL, 100, 0, NULL), (9, 'Level', 'x', NULL, 5.00000001, 5, 'm')");
+        db.run(
+            "INSERT INTO CMPSTDEV VALUES (7, 2, 'L', 20.5), (7, 9, 'F', 10), (7, 1, 'S', 30),"
+            " (8, 2, 'F', 20), (8, 1, 'F', 10), (8, 3, 'F', 30), (9, 1, 'F', 2), (9, 2, 'F', 1)");
+    }
+    EVdictList dictionary;
+    const Restore<FixedText<19>> top{eventTopPrefix, "Top"}, base{eventBasePrefix, "Base of "};
+};
+
+std::string textOf(const EVdict& e)
+{
+    return joined(e.ev_id(), e.spec_id, e.ev_type, e.generate, e.name(), e.creator.view(),
+        e.created == Date::Today() ? "today" : e.created.isoText());
+}
+
+std::string textOf(const compStd& s)
+{
+    std::string text = joined(s.std_id, s.name, s.creator,
+        s.created == Date::Today() ? "today" : s.created.isoText(), s.topcsu, s.basecsu, s.units);
+    for (const auto& event : s.events) {
+        char label[kEventLabelRoom];
+        event->label(label);
+        text += joined(event->csu, label);
+    }
+    return text;
+}
+
+Taxon withId(long spec_id)
+{
+    Taxon taxon;
+    taxon.setSpecId(spec_id);
+    return taxon;
+}
+
+/// The statements of the session about events and standards, bare table names behind "@".
+Texts sentTo(const StatementLog& log)
+{
+    Texts sent;
+    for (std::string statement : log.statements()) {
+        for (const char* name : {"EVENT", "CMPSTD"}) {
+            if (const auto at = statement.find(table(name)); at != std::string::npos) {
+                statement.replace(at, testSettings().prefix.size(), "@");
+                if (!statement.starts_with("SELECT spec_id, ev_type, generate, name, creator, "))
+                    sent.push_back(statement);
+            }
+        }
+    }
+    return sent;
+}
+
+#define BY_NAME                                                                                    \
+    "SELECT ev_id, spec_id, creator, created, ev_type, generate FROM @EVENTDIC WHERE name="
+#define SET "UPDATE @EVENTDIC SET "
+#define OTHERS "SELECT generate FROM @EVENTDIC WHERE spec_id="
+#define ALBA " FROM @EVENTDIC WHERE spec_id=104 AND ev_type='S' AND "
+#define GENERATED "SELECT ev_id, name, creator, created, generate" ALBA "generate="
+#define NAMED "SELECT ev_id, creator, created" ALBA "name='Alphina alba'"
+#define PLACES "SELECT ev_id, ev_type, csu FROM @CMPSTDEV WHERE std_id="
+
+TEST(Events, AreRead)
+{
+    Events events;
+    const StatementLog log;
+    // In braces, which keep the order of the reads.
+    const Texts read{textOf(EVdict(1L)), textOf(EVdict(9L)), textOf(EVdict("Beta")),
+        textOf(EVdict("Alpha", nullptr, 'S', 'N')), textOf(EVdict(104, 'S', 'N')),
+        textOf(EVdict(104, 'S', 'Y')), textOf(EVdict("C", "D", nullptr, 'R', 'Y'))};
+    EXPECT_EQ((Texts{"1|100|R|N|Alpha|AB|1998-03-05|", "9|0| |N|||today|", "2|100|R|Y|Beta|||",
+                  "3|0|S|N|Alpha|||", "4|104|S|N|Alphina alba|CD|1998-04-06|",
+                  "4|104|S|Y|Alphina alba|CD|1998-04-06|", "0|0| |N|D||today|"}),
+        read);
+    EXPECT_EQ((Texts{BY_NAME "'Beta'", BY_NAME "'Alpha' AND ev_type='S'", GENERATED "'N'",
+                  GENERATED "'Y'", NAMED, BY_NAME "'C'"}),
+        sentTo(log));
+    EXPECT_TRUE(events.screen.texts().empty());
+    char paired[EVdict::kTextRoom], single[EVdict::kTextRoom];
+    EVdict alpha(1L), bare(3L);
+    alpha.describe(paired);
+    bare.describe(single);
+    EXPECT_EQ("Alpha:   Alphina betana  (paired)|Alpha:   (No taxon)  (single)|FORAM|EV|",
+        joined(paired, single, alpha.categoryText(), bare.categoryText()));
+}
+
+TEST(Events, AreWritten)
+{
+    Events events;
+    EVdict alpha(1L), beta(2L);
+    const StatementLog log;
+    EXPECT_EQ((std::vector{1, 0, 0, 0}),
+        (std::vector{alpha.setGenerate('Y'), beta.setGenerate('Y'), beta.setGenerate('N'),
+            alpha.setGenerate('Y')}));
+    Taxon taxon = withId(104);
+    EXPECT_EQ("2|104|S|N|It's|||", textOf(EVdict("Beta", "It's", &taxon, 'S', 'N')));
+    const std::string longest(99, 'x');
+    alpha.rename((longest + "é").c_str());
+    EXPECT_EQ(1, EVdict((longest + "é").c_str()).ev_id());
+    EVdict(4L).deleteEvent();
+    const std::string another = OTHERS "100 AND ev_type='R' AND name <>'Alpha' AND generate='Y'";
+    EXPECT_EQ(
+        (Texts{another, SET "generate='N' WHERE ev_id=2", another, SET "generate='Y' WHERE ev_id=1",
+            BY_NAME "'Beta'", SET "name='It`s',ev_type='S',spec_id=104 WHERE ev_id=2",
+            SET "name='" + longest + "' WHERE ev_id=1", BY_NAME "'" + longest + "'",
+            "DELETE FROM @EVENTDIC WHERE ev_id=4", "DELETE FROM @EVENTS WHERE ev_id=4"}),
+        sentTo(log));
+    dbCommit();
+    EXPECT_EQ((Texts{"100|R|Y|" + longest, "104|S|N|It`s", "0|S|N|Alpha"}),
+        events.db.rows("SELECT spec_id, ev_type, generate, name FROM EVENTDIC"));
+    EXPECT_EQ("2", events.db.value("SELECT group_concat(ev_id) FROM EVENTS"));
+}
+
+TEST(Events, AreNeverAdded)
+{
+    Events events;
+    const StatementLog log;
+    Taxon taxon = withId(104);
+    EXPECT_EQ("0|104|S|Y|Beta||today|", textOf(EVdict("Beta", &taxon, 'S', 'Y')));
+    EXPECT_EQ("0|99|S|Y|Alphina betana minor||today|", textOf(EVdict(99, 'S', 'Y')));
+    EXPECT_EQ((Texts{"Event dictionary with id=0", "Attempt to add event"}), events.screen.texts());
+    Texts sent = sentTo(log);
+    sent.resize(3);
+    EXPECT_EQ((Texts{BY_NAME "'Beta' AND ev_type='S'",
+                  OTHERS "104 AND ev_type='R' AND name <>'Beta' AND generate='Y'",
+                  SET "generate='Y' WHERE ev_id=0"}),
+        sent);
+}
+
+TEST(CompStd, ListsItsEventsInScaleOrder)
+{
+    Events events;
+    EVdict* beta = findOrRead(events.dictionary, 2);
+    const StatementLog log;
+    compStd up("Up", events.dictionary);
+    const Texts read{textOf(up), textOf(compStd(8L, events.dictionary)),
+        textOf(compStd(9L, events.dictionary)), textOf(compStd("None", events.dictionary))};
+    EXPECT_EQ((Texts{"7|Up|AB|1998-03-05|0|100|Ma|10|Top |20.5|Base of Beta|30|Alpha|",
+                  "8|Down|||100|0||30|Top Alpha|20|Top Beta|10|Top Alpha|",
+                  "9|Level|x||5|5|m|1|Top Beta|2|Top Alpha|", "0|None||today|0|0|CSU|"}),
+        read);
+    EXPECT_EQ(
+        (std::vector{0, 1, 1}), (std::vector{up.nameInUse(7), up.nameInUse(8), up.nameInUse(0)}));
+    up.loadEvents(events.dictionary);
+    EXPECT_EQ(3U, up.events.size());
+    EXPECT_EQ(beta, up.events[1]->entry);
+    EXPECT_EQ(4, events.dictionary.count());
+    const std::string head = ", creator, created, topcsu, basecsu, units ", from = "FROM @CMPSTD ";
+    const std::string name = "SELECT std_id FROM @CMPSTD WHERE name='Up'";
+    EXPECT_EQ(
+        (Texts{"SELECT std_id" + head + " " + from + "WHERE name='Up'", PLACES "7 ORDER BY csu",
+            "SELECT name" + head + from + "WHERE std_id=8", PLACES "8 ORDER BY csu DESC",
+            "SELECT name" + head + from + "WHERE std_id=9", PLACES "9 ORDER BY csu",
+            "SELECT std_id" + head + " " + from + "WHERE name='None'", PLACES "0 ORDER BY csu",
+            name + " AND std_id <>7", name + " AND std_id <>8", name, PLACES "7 ORDER BY csu"}),
+        sentTo(log));
+}
+
+TEST(EventDictionary, InsertsAndFindsAsAWalkWould)
+{
+    Events events;
+    for (int id = 10; id < 99; ++id)
+        events.db.run("INSERT INTO EVENTDIC (ev_id, name) VALUES (" + std::to_string(id) + ", '"
+            + "aBbz"[id % 4] + "')");
+    std::vector<EVdict*> plain;
+    std::mt19937 random(7);
+    for (int i = 0; i < 300; ++i) {
+        auto* entry = new EVdict(static_cast<long>(10 + random() % 89));
+        if (i % 50 == 20) // as others do
+            plain[random() % plain.size()]->rename("Bz");
+        const auto place = std::find_if(plain.begin(), plain.end(),
+            [entry](const EVdict* e) { return e->nameView() > entry->nameView(); });
+        const auto examined = place - plain.begin() + (place != plain.end());
+        EXPECT_EQ(examined, insertByName(events.dictionary, entry)) << i;
+        plain.insert(place, entry);
+        EXPECT_EQ(findById(events.dictionary, entry->ev_id()),
+            *std::find_if(plain.begin(), plain.end(),
+                [entry](const EVdict* e) { return e->ev_id() == entry->ev_id(); }))
+            << i;
+    }
+    EXPECT_EQ(plain, std::vector<EVdict*>(events.dictionary.begin(), events.dictionary.end()));
+    EXPECT_EQ(nullptr, findById(events.dictionary, 99));
+}
+
+TEST(EventLabels, BeginWithTheWordsOfTheUser)
+{
+    for (const auto& [top, base, labels] : {std::tuple("-", "-", "Top of X|Base of X|X|"),
+             {"Top", "Sole of the range xy", "Top X|Sole of the range x X|X|"},
+             {"", "B", "X|B X|X|"}}) {
+        Events events;
+        const Restore<int> user(currentUserId, 3);
+        if (*top != '-') {
+            prefPut(3, "TOPPFX", top);
+            prefPut(3, "BASEPFX", base);
+        }
+        loadEventPrefixes();
+        std::string text;
+        for (const char kind : {'F', 'L', 'S'}) {
+            char label[kEventLabelRoom];
+            eventLabel(label, kind, "X");
+            text += joined(label);
+        }
+        EXPECT_EQ(labels, text);
+    }
+}
+
+/// What is left when the n-th statement does not run, and when its first row cannot be fetched. A
+/// lost connection is restored where a failure is fatal, so the operation goes on.
+struct Outcome {
+    int n;
+    std::string report; ///< how the first box begins
+    std::string failed;
+    std::string unfetched{}; ///< empty: not asked
+    bool fatal = true;
+};
+
+struct Operation {
+    const char* name;
+    std::string (*run)(Events&);
+    std::vector<Outcome> outcomes;
+};
+
+std::string written(Events& t)
+{
+    dbCommit();
+    return t.db.value(
+        "SELECT name || generate || (SELECT count(*) FROM EVENTS) FROM EVENTDIC WHERE "
+        "ev_id = 2");
+}
+
+const Operation kOperations[] = {
+    {"identifier", [](Events&) { return joined(EVdict(1L).name()); },
+        {{1, "SELECT spec_id, ev_type", "|", "|"}}},
+    {"generating",
+        [](Events&) {
+            EVdict event("Alpha");
+            const int result = event.setGenerate('Y');
+            return joined(event.ev_id(), result, event.generate);
+        },
+        {{1, "SELECT ev_id, spec_id", "0|0|Y|", "0|0|Y|"},
+            {2, "SELECT generate", "1|1|N|", "1|0|Y|"}}},
+    {"rewritten",
+        [](Events& t) {
+            const EVdict event("Beta", "Beth", nullptr, 'S', 'N');
+            return joined(event.ev_id(), event.name()) + written(t);
+        },
+        {{1, "SELECT ev_id, spec_id", "0|Beth|BetaY2", "0|Beth|BetaY2"},
+            {2, "UPDATE", "2|Beth|BetaN2"}, {3, "UPDATE", "2|Beth|BetaY2"}}},
+    {"taxon", [](Events&) { return textOf(EVdict(104, 'S', 'Y')); },
+        {{3, "SELECT ev_id, name", "0|104|S|Y|||today|"},
+            {4, "SELECT ev_id, creator", "0|104|S|Y|Alphina alba||today|"}}},
+    {"renamed",
+        [](Events& t) {
+            EVdict event(2L);
+            event.rename("Beth");
+            return event.name() + written(t);
+        },
+        {{2, "UPDATE", "BethBetaY2"}}},
+    {"deleted",
+        [](Events& t) {
+            EVdict(2L).deleteEvent();
+            return written(t);
+        },
+        {{2, "DELETE", "BetaY1"}, {3, "DELETE", "BetaY2"}}},
+    {"standard", [](Events& t) { return textOf(compStd(8L, t.dictionary)); },
+        {{1, "SELECT name", "0|||today|0|0|CSU|", "0|||today|0|0|CSU|", false},
+            {2, "SELECT ev_id, ev_type", "8|Down|||100|0||", "8|Down|||100|0||", false},
+            {3, "SELECT spec_id", "8|Down|||100|0||30|Top |"}}},
+    {"name in use", [](Events&) { return joined(compStd().nameInUse(7)); },
+        {{1, "SELECT std_id", "-1|", "0|", false}}},
+    {"prefixes",
+        [](Events&) {
+            loadEventPrefixes();
+            return joined(eventTopPrefix.view(), eventBasePrefix.view());
+        },
+        {{1, "SELECT pref_value", "Top of |Base of |", "", false}}},
+};
+
+void expectOutcome(const Operation& operation, const Outcome& outcome, const std::string& call)
+{
+    SCOPED_TRACE(operation.name + (" " + std::to_string(outcome.n)) + call);
+    const bool fetch = call == "SQLFetch";
+    Events events;
+    const std::string text = outcome.fatal ? "ORA-03113: lost" : "injected";
+    {
+        const DriverFault fault(outcome.n, call, DriverFault::Once, "HY000", text);
+        EXPECT_EQ(fetch ? outcome.unfetched : outcome.failed, operation.run(events));
+        EXPECT_TRUE(fault.fired());
+    }
+    const Texts boxes = events.screen.texts();
+    if (fetch)
+        EXPECT_EQ(Texts(), boxes);
+    else
+        EXPECT_THAT(boxes, testing::Contains(testing::HasSubstr(text)).Times(1));
+    EXPECT_EQ(1, dbExecute("SELECT 1")) << "a cursor was left";
+}
+
+TEST(EventFaults, LeaveWhatWasReadAndAreReported)
+{
+    for (const Operation& operation : kOperations) {
+        for (const Outcome& outcome : operation.outcomes) {
+            expectOutcome(operation, outcome, "SQLExecDirect");
+            if (!outcome.unfetched.empty())
+                expectOutcome(operation, outcome, "SQLFetch");
+        }
+    }
+}
+
+TEST(EventFaults, EndTheProcessWhereTheyAreFatal)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    for (const Operation& operation : kOperations) {
+        for (const Outcome& outcome : operation.outcomes) {
+            const auto run = [&operation, &outcome] {
+                Events events;
+                events.screen.echo();
+                const DriverFault fault(outcome.n, "SQLExecDirect");
+                operation.run(events);
+            };
+            if (!outcome.fatal)
+                continue;
+            EXPECT_EXIT(run(), testing::ExitedWithCode(1), "^box: " + outcome.report);
+        }
+    }
+}
+
+} // namespace
