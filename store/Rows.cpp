@@ -18,16 +18,21 @@ bool readAll(Statement& statement, const std::vector<ColumnType>& types,
     return row == Statement::Row::End;
 }
 
-Outcome putRow(TableWriter& table, Writing writing, const std::vector<Value>& key, const Row& given)
+Outcome putRow(TableWriter& table, Writing writing, const std::vector<Value>& key, const Row& given,
+    const RowDefaults& defaults)
 {
     Row stored;
     const TableWriter::Found found = table.find(key, &stored);
     if (found == TableWriter::Found::Failed)
         return Outcome::Failed;
     const bool isNew = found == TableWriter::Found::No;
-    const Row changes = isNew ? given : table.differences(stored, given);
+    Row changes = isNew ? given : table.differences(stored, given);
     if (!isNew && isEmpty(changes))
         return Outcome::Same;
+    const Row& further = isNew ? defaults.whenNew : defaults.whenChanged;
+    for (std::size_t i = 0; i < further.size(); ++i)
+        if (further[i] && !(isNew && changes[i]))
+            changes[i] = further[i];
     const bool good = writing == Writing::Check
         || (isNew ? table.insert(key, changes) : table.update(key, changes));
     return !good ? Outcome::Failed : isNew ? Outcome::New : Outcome::Changed;

@@ -12,10 +12,16 @@
 bool readAll(Statement& statement, const std::vector<ColumnType>& types,
     const std::function<void(const std::vector<Value>&)>& take);
 
+/// What a row that is written gets beside the values given for it. Alone they change nothing.
+struct RowDefaults {
+    Row whenNew;     ///< where nothing is given
+    Row whenChanged; ///< in any case
+};
+
 /// Inserts the row of that key, or changes what differs; checking, it only finds out. Failed: the
 /// table's error.
-Outcome putRow(
-    TableWriter& table, Writing writing, const std::vector<Value>& key, const Row& given);
+Outcome putRow(TableWriter& table, Writing writing, const std::vector<Value>& key, const Row& given,
+    const RowDefaults& defaults = {});
 
 /// A text of the database as people read it; empty for NULL.
 std::string textOf(const Value& value);

@@ -106,6 +106,13 @@ char unitsOf(std::string_view cell)
     return isOneOf(cell, {"F", "FT", "'", "foot", "feet"}) ? 'F' : '\0';
 }
 
+std::optional<Value> givenValue(Cell state, Value value)
+{
+    if (state == Cell::Missing || state == Cell::Bad)
+        return std::nullopt;
+    return state == Cell::Good ? std::move(value) : Value();
+}
+
 std::string_view CellReader::raw(int column) const
 {
     const int field = file_.column(column).field;

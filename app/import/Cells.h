@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/import/InputFile.h"
+#include "store/Value.h"
 #include "util/Date.h"
 
 #include <optional>
@@ -26,6 +27,10 @@ char unitsOf(std::string_view cell);
 /// that mean "not known". Bad: reported; the row is refused or goes on without the cell, as its
 /// column's shape says.
 enum class Cell { Missing, Empty, Bad, Good };
+
+/// What a cell gives a column of the database: nothing when it is missing or bad, which leaves the
+/// column as it is, NULL when it is empty.
+std::optional<Value> givenValue(Cell state, Value value);
 
 /// The cells of one row by their columns, with everything odd told to the file's report.
 class CellReader {

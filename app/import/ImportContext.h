@@ -1,6 +1,8 @@
 // app/import/ImportContext.h
 #pragma once
 
+#include "app/import/Abundance.h"
+#include "app/import/Analyses.h"
 #include "app/import/Dictionary.h"
 #include "app/import/InputFile.h"
 #include "store/AbundanceWriter.h"
@@ -22,20 +24,22 @@ struct RowPlace {
     std::string seenFrom(const InputFile& other) const;
 };
 
-/// What a file's own number of a row stands for. Files number their rows as they like, so the
-/// numbers count within one set of files and one import only.
-struct FileId {
-    RowPlace place;
-    long databaseId = 0; ///< 0 until the row is stored
-};
-using FileIds = std::unordered_map<std::string, FileId>;
-
 /// A well that rows of other files may refer to.
 struct KnownWell {
     long id = 0; ///< WELL_IDENT.well_id; 0 until the well is stored
     char type = 'W';
     char units = 'M';
 };
+
+/// What a file's own number of a row stands for. Files number their rows as they like, so the
+/// numbers count within one set of files and one import only.
+struct FileId {
+    RowPlace place;
+    long databaseId = 0;             ///< 0 until the row is stored
+    const KnownWell* well = nullptr; ///< of a sample
+    long ordinal = 0;                ///< of a sample: rows that are the same sample share it
+};
+using FileIds = std::unordered_map<std::string, FileId>;
 
 /// What the loaders of one import share.
 class ImportContext {
@@ -44,6 +48,7 @@ public:
         : writing(mode)
         , dictionary(mode)
         , abundances(mode)
+        , analyses(mode)
         , stored_(Writing::Check)
     {
     }
@@ -54,6 +59,14 @@ public:
     Dictionary dictionary;
     AbundanceWriter abundances;
     Numbered<AbundanceScheme> numberedSchemes;
+    Analyses analyses;
+
+    /// What a set of files says about its abundances.
+    struct SetAbundances {
+        AbundanceScheme* scheme = nullptr; ///< null: none is given
+        AbundanceWords words;
+    };
+    SetAbundances& abundancesOf(const std::string& set) { return setAbundances_[set]; }
 
     /// What the database has of a well code; false: `error`.
     bool storedWell(const std::string& code, StoredWell* out);
@@ -71,5 +84,6 @@ public:
 private:
     WellWriter stored_;
     std::unordered_map<std::string, std::optional<KnownWell>> wells_;
+    std::map<std::string, SetAbundances> setAbundances_;
     std::map<std::pair<std::string, std::string>, FileIds> ids_;
 };

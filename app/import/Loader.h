@@ -39,3 +39,8 @@ std::unique_ptr<RowLoader> makeSynonymyLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeNameVariantsLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeSchemesLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeLevelsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeAbundanceCodesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeAnalystsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeDetailsLoader(ImportContext& context);
+/// Of occurrences and of counts.
+std::unique_ptr<RowLoader> makeOccurrencesLoader(ImportContext& context);

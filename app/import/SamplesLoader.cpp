@@ -130,10 +130,7 @@ private:
         const auto read = [&](int column, std::optional<Value>* out) {
             long value = 0;
             const Cell state = cells.whole(column, &value);
-            if (state == Cell::Good)
-                *out = value;
-            else if (state == Cell::Empty)
-                *out = Value();
+            *out = givenValue(state, value);
         };
         read(samples::GridX, &record_.gridX);
         read(samples::GridY, &record_.gridY);
@@ -144,7 +141,12 @@ private:
     {
         const RowPlace place{&cells.file(), cells.line()};
         key_ = storedText(code_) + '\n' + sampleKey(record_);
-        const auto [first, isNew] = seen_.try_emplace(key_, Seen{place, 0});
+        const auto [first, isNew] =
+            seen_.try_emplace(key_, Seen{place, 0, static_cast<long>(seen_.size())});
+        if (fileId_) {
+            fileId_->well = well_;
+            fileId_->ordinal = first->second.ordinal;
+        }
         if (isNew || first->second.place == place)
             return;
         if (fileId_)
@@ -157,6 +159,7 @@ private:
     struct Seen {
         RowPlace place;
         long databaseId;
+        long ordinal;
     };
 
     ImportContext& context_;

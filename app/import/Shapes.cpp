@@ -1,6 +1,7 @@
 // app/import/Shapes.cpp
 #include "app/import/Shapes.h"
 
+#include "app/import/AnalysisShapes.h"
 #include "app/import/Loader.h"
 
 namespace {
@@ -36,7 +37,7 @@ constexpr ColumnShape kWells[] = {
 static_assert(std::size(kWells) == wells::Count);
 
 constexpr ColumnShape kSamples[] = {
-    {samples::WellCode, "well_code", CellKind::Key, Refuses, true, 25},
+    {samples::WellCode, "well_code core_code", CellKind::Key, Refuses, true, 25},
     {samples::Id, "samp_id sample_id", CellKind::Id, Refuses},
     {samples::Top, "top_depth depth", CellKind::Depth, Refuses},
     {samples::Base, "base_depth bot_depth", CellKind::Depth, Refuses},
@@ -126,6 +127,8 @@ template <std::size_t N> constexpr bool inOrder(const ColumnShape (&columns)[N])
 static_assert(inOrder(kWells) && inOrder(kSamples));
 static_assert(inOrder(kCategories) && inOrder(kTaxa) && inOrder(kSynonymy));
 static_assert(inOrder(kNameVariants) && inOrder(kSchemes) && inOrder(kLevels));
+static_assert(inOrder(analysts::kColumns) && inOrder(abundance_codes::kColumns));
+static_assert(inOrder(sample_details::kColumns) && inOrder(occurrences::kColumns));
 
 constexpr FileShape kShapes[] = {
     {"wells", kWells, makeWellsLoader},
@@ -136,6 +139,11 @@ constexpr FileShape kShapes[] = {
     {"name_variants", kNameVariants, makeNameVariantsLoader},
     {"schemes", kSchemes, makeSchemesLoader, true},
     {"levels", kLevels, makeLevelsLoader, true},
+    {"abundance_codes", abundance_codes::kColumns, makeAbundanceCodesLoader},
+    {"analysts", analysts::kColumns, makeAnalystsLoader},
+    {"sample_details", sample_details::kColumns, makeDetailsLoader},
+    {"occurrences", occurrences::kColumns, makeOccurrencesLoader},
+    {"counts", occurrences::kCountColumns, makeOccurrencesLoader},
 };
 
 bool isNameBreak(char c) { return c == '-' || c == '_' || c == '.' || c == ' '; }

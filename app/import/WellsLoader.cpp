@@ -31,13 +31,10 @@ struct Position {
 constexpr Position kPosition[] = {
     {wells::Latitude, WellColumn::Latitude, 90}, {wells::Longitude, WellColumn::Longitude, 180}};
 
-// An empty cell empties the column; one that the file lacks or that was refused leaves it alone.
 void setUnlessLeft(WellRecord& record, WellColumn column, Cell state, Value value)
 {
-    if (state == Cell::Good)
-        record.set(column, std::move(value));
-    else if (state == Cell::Empty)
-        record.set(column, Value());
+    if (auto given = givenValue(state, std::move(value)))
+        record.set(column, std::move(*given));
 }
 
 class WellsLoader : public RowLoader {
