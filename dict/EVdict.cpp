@@ -87,8 +87,8 @@ EVdict::EVdict(const char* oldName, const char* newName, Taxon* taxon, char type
     name_ = newName;
     if (ev_id_ == 0)
         return;
-    rewrite(taxon, type);
-    setGenerate(flag);
+    if (rewrite(taxon, type))
+        setGenerate(flag);
 }
 
 EVdict::EVdict(long specId, char type, char flag)
@@ -153,7 +153,7 @@ FirstRow EVdict::readAsNamed()
     });
 }
 
-void EVdict::rewrite(const Taxon* taxon, char type)
+bool EVdict::rewrite(const Taxon* taxon, char type)
 {
     std::string sql = "UPDATE " + sql::table("EVENTDIC") + " SET name=" + sql::quote(name_.view());
     if (type != ev_type) {
@@ -164,7 +164,7 @@ void EVdict::rewrite(const Taxon* taxon, char type)
         sql += ",spec_id=" + sql::integer(taxon->spec_id());
         spec_id = taxon->spec_id();
     }
-    runOrReport(sql + whereEntry(ev_id_), Fatal::Yes);
+    return runOrReport(sql + whereEntry(ev_id_), Fatal::Yes);
 }
 
 void EVdict::findByName()
@@ -193,17 +193,18 @@ int EVdict::setGenerate(char flag)
 void EVdict::rename(const char* newName)
 {
     const FixedText<100> taken(newName);
-    runOrReport("UPDATE " + sql::table("EVENTDIC") + " SET name=" + sql::quote(taken.view())
-            + whereEntry(ev_id_),
-        Fatal::Yes);
+    if (!runOrReport("UPDATE " + sql::table("EVENTDIC") + " SET name=" + sql::quote(taken.view())
+                + whereEntry(ev_id_),
+            Fatal::Yes))
+        return;
     name_ = taken;
     ++changes_;
 }
 
 void EVdict::deleteEvent()
 {
-    runOrReport(deleteFrom("EVENTDIC", ev_id_), Fatal::Yes);
-    runOrReport(deleteFrom("EVENTS", ev_id_), Fatal::Yes);
+    if (runOrReport(deleteFrom("EVENTDIC", ev_id_), Fatal::Yes))
+        runOrReport(deleteFrom("EVENTS", ev_id_), Fatal::Yes);
 }
 
 std::string EVdict::nameOfTaxon()

@@ -80,7 +80,7 @@ private:
     FirstRow readByName();
     FirstRow readAsGenerated();
     FirstRow readAsNamed();
-    void rewrite(const Taxon* taxon, char type);
+    bool rewrite(const Taxon* taxon, char type);
     std::string nameOfTaxon();
 
     long ev_id_ = 0;

@@ -2,14 +2,13 @@
 #include "db/Preferences.h"
 #include "dict/EventLabels.h"
 #include "dict/compStd.h"
+#include "tests/support/FaultTable.h"
 #include "tests/support/Restore.h"
 #include "tests/taxonomy/DictionaryTest.h"
 
 #include <algorithm>
 #include <random>
 #include <sstream>
-
-#include <gmock/gmock.h>
 
 namespace {
 
@@ -213,41 +212,21 @@ TEST(EventDictionary, InsertsAndFindsAsAWalkWould)
 
 TEST(EventLabels, BeginWithTheWordsOfTheUser)
 {
-    for (const auto& [top, base, labels] : {std::tuple("-", "-", "Top of X|Base of X|X|"),
-             {"Top", "Sole of the range xy", "Top X|Sole of the range x X|X|"},
-             {"", "B", "X|B X|X|"}}) {
-        Events events;
-        const Restore<int> user(currentUserId, 3);
-        if (*top != '-') {
-            prefPut(3, "TOPPFX", top);
-            prefPut(3, "BASEPFX", base);
-        }
+    Events events;
+    char top[kEventLabelRoom], base[kEventLabelRoom];
+    for (const auto& [user, labels] : {std::pair(1, "Top of X|Base of X|"),
+             {3, "Top X|Sole of the range x X|"}, {4, "X|Base of X|"}}) {
+        const Restore<int> current(currentUserId, user);
+        if (user > 1)
+            prefPut(user, "TOPPFX", user == 3 ? "Top" : "");
+        if (user == 3)
+            prefPut(user, "BASEPFX", "Sole of the range xy");
         loadEventPrefixes();
-        std::string text;
-        for (const char kind : {'F', 'L', 'S'}) {
-            char label[kEventLabelRoom];
-            eventLabel(label, kind, "X");
-            text += joined(label);
-        }
-        EXPECT_EQ(labels, text);
+        eventLabel(top, 'F', "X");
+        eventLabel(base, 'L', "X");
+        EXPECT_EQ(labels, joined(top, base));
     }
 }
-
-/// What is left when the n-th statement does not run, and when its first row cannot be fetched. A
-/// lost connection is restored where a failure is fatal, so the operation goes on.
-struct Outcome {
-    int n;
-    std::string report; ///< how the first box begins
-    std::string failed;
-    std::string unfetched{}; ///< empty: not asked
-    bool fatal = true;
-};
-
-struct Operation {
-    const char* name;
-    std::string (*run)(Events&);
-    std::vector<Outcome> outcomes;
-};
 
 std::string written(Events& t)
 {
@@ -257,100 +236,55 @@ std::string written(Events& t)
         "ev_id = 2");
 }
 
-const Operation kOperations[] = {
+const FaultCase<Events> kFaults[] = {
     {"identifier", [](Events&) { return joined(EVdict(1L).name()); },
-        {{1, "SELECT spec_id, ev_type", "|", "|"}}},
+        {{1, "SELECT spec_id, ev_type", "|", "|", true}}},
     {"generating",
         [](Events&) {
             EVdict event("Alpha");
             const int result = event.setGenerate('Y');
             return joined(event.ev_id(), result, event.generate);
         },
-        {{1, "SELECT ev_id, spec_id", "0|0|Y|", "0|0|Y|"},
-            {2, "SELECT generate", "1|1|N|", "1|0|Y|"}}},
+        {{1, "SELECT ev_id, spec_id", "0|0|Y|", "0|0|Y|", true},
+            {2, "SELECT generate", "1|1|N|", "1|0|Y|", true}}},
     {"rewritten",
         [](Events& t) {
             const EVdict event("Beta", "Beth", nullptr, 'S', 'N');
             return joined(event.ev_id(), event.name()) + written(t);
         },
-        {{1, "SELECT ev_id, spec_id", "0|Beth|BetaY2", "0|Beth|BetaY2"},
-            {2, "UPDATE", "2|Beth|BetaN2"}, {3, "UPDATE", "2|Beth|BetaY2"}}},
+        {{1, "SELECT ev_id, spec_id", "0|Beth|BetaY2", "0|Beth|BetaY2", true},
+            {2, "UPDATE", "2|Beth|BetaY2", "", true}, {3, "UPDATE", "2|Beth|BetaY2", "", true}}},
     {"taxon", [](Events&) { return textOf(EVdict(104, 'S', 'Y')); },
-        {{3, "SELECT ev_id, name", "0|104|S|Y|||today|"},
-            {4, "SELECT ev_id, creator", "0|104|S|Y|Alphina alba||today|"}}},
+        {{3, "SELECT ev_id, name", "0|104|S|Y|||today|", "", true},
+            {4, "SELECT ev_id, creator", "0|104|S|Y|Alphina alba||today|", "", true}}},
     {"renamed",
         [](Events& t) {
             EVdict event(2L);
             event.rename("Beth");
             return event.name() + written(t);
         },
-        {{2, "UPDATE", "BethBetaY2"}}},
+        {{2, "UPDATE", "BetaBetaY2", "", true}}},
     {"deleted",
         [](Events& t) {
             EVdict(2L).deleteEvent();
             return written(t);
         },
-        {{2, "DELETE", "BetaY1"}, {3, "DELETE", "BetaY2"}}},
+        {{2, "DELETE", "BetaY2", "", true}, {3, "DELETE", "BetaY2", "", true}}},
     {"standard", [](Events& t) { return textOf(compStd(8L, t.dictionary)); },
-        {{1, "SELECT name", "0|||today|0|0|CSU|", "0|||today|0|0|CSU|", false},
-            {2, "SELECT ev_id, ev_type", "8|Down|||100|0||", "8|Down|||100|0||", false},
-            {3, "SELECT spec_id", "8|Down|||100|0||30|Top |"}}},
+        {{1, "SELECT name", "0|||today|0|0|CSU|", "0|||today|0|0|CSU|"},
+            {2, "SELECT ev_id, ev_type", "8|Down|||100|0||", "8|Down|||100|0||"},
+            {3, "SELECT spec_id", "8|Down|||100|0||30|Top |", "", true}}},
     {"name in use", [](Events&) { return joined(compStd().nameInUse(7)); },
-        {{1, "SELECT std_id", "-1|", "0|", false}}},
+        {{1, "SELECT std_id", "-1|", "0|"}}},
     {"prefixes",
         [](Events&) {
             loadEventPrefixes();
             return joined(eventTopPrefix.view(), eventBasePrefix.view());
         },
-        {{1, "SELECT pref_value", "Top of |Base of |", "", false}}},
+        {{1, "SELECT pref_value", "Top of |Base of |", ""}}},
 };
 
-void expectOutcome(const Operation& operation, const Outcome& outcome, const std::string& call)
-{
-    SCOPED_TRACE(operation.name + (" " + std::to_string(outcome.n)) + call);
-    const bool fetch = call == "SQLFetch";
-    Events events;
-    const std::string text = outcome.fatal ? "ORA-03113: lost" : "injected";
-    {
-        const DriverFault fault(outcome.n, call, DriverFault::Once, "HY000", text);
-        EXPECT_EQ(fetch ? outcome.unfetched : outcome.failed, operation.run(events));
-        EXPECT_TRUE(fault.fired());
-    }
-    const Texts boxes = events.screen.texts();
-    if (fetch)
-        EXPECT_EQ(Texts(), boxes);
-    else
-        EXPECT_THAT(boxes, testing::Contains(testing::HasSubstr(text)).Times(1));
-    EXPECT_EQ(1, dbExecute("SELECT 1")) << "a cursor was left";
-}
-
-TEST(EventFaults, LeaveWhatWasReadAndAreReported)
-{
-    for (const Operation& operation : kOperations) {
-        for (const Outcome& outcome : operation.outcomes) {
-            expectOutcome(operation, outcome, "SQLExecDirect");
-            if (!outcome.unfetched.empty())
-                expectOutcome(operation, outcome, "SQLFetch");
-        }
-    }
-}
-
-TEST(EventFaults, EndTheProcessWhereTheyAreFatal)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    for (const Operation& operation : kOperations) {
-        for (const Outcome& outcome : operation.outcomes) {
-            const auto run = [&operation, &outcome] {
-                Events events;
-                events.screen.echo();
-                const DriverFault fault(outcome.n, "SQLExecDirect");
-                operation.run(events);
-            };
-            if (!outcome.fatal)
-                continue;
-            EXPECT_EXIT(run(), testing::ExitedWithCode(1), "^box: " + outcome.report);
-        }
-    }
-}
+TEST(EventFaults, LeaveWhatWasReadAndAreReported) { expectFaults(kFaults); }
+TEST(EventFaults, EndTheProcessWhereTheyAreFatal) { expectEnds(kFaults); }
 
 } // namespace
