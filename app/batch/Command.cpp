@@ -18,6 +18,13 @@ void addWell(CLI::App* command, std::string* well)
     command->add_option("WELL", *well, "Code, name or number of the well")->required();
 }
 
+void addDiscipline(CLI::App* command, std::string* discipline)
+{
+    command->add_option("--disc", *discipline, "Letter or name of the discipline")
+        ->type_name("L")
+        ->required();
+}
+
 void addUnits(CLI::App* command, char* units)
 {
     command

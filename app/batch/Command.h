@@ -5,6 +5,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <memory>
+
 /// Declares a command on the command line. When it is chosen, `run` becomes the one of `options`;
 /// what `run` needs from options of its own, which the caller adds to the result, it shares with
 /// them. The result belongs to `app`.
@@ -13,6 +15,9 @@ CLI::App* addCommand(CLI::App& app, BatchOptions* options, const char* name, con
 
 /// The argument that names a well.
 void addWell(CLI::App* command, std::string* well);
+
+/// The option that names a discipline.
+void addDiscipline(CLI::App* command, std::string* discipline);
 
 /// `--units`: 'M' or 'F', left alone when it is not given.
 void addUnits(CLI::App* command, char* units);

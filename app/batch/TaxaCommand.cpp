@@ -5,9 +5,8 @@
 #include "app/batch/TextTable.h"
 #include "app/import/TaxonName.h"
 #include "app/import/Words.h"
-#include "db/Cursor.h"
-#include "db/Literals.h"
-#include "db/Session.h"
+#include "app/shell/SynonymySchemes.h"
+#include "app/shell/TaxonPatterns.h"
 #include "store/Value.h"
 #include "taxonomy/TaxonList.h"
 #include "util/TextUtil.h"
@@ -15,14 +14,13 @@
 #include <algorithm>
 #include <charconv>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <optional>
 
 namespace {
 
 using enum TextTable::Align;
-
-constexpr const char* kAny = "%";
 
 struct TaxaQuery {
     std::vector<std::string> patterns; ///< genus, species, subspecies; a subgenus in brackets
@@ -32,41 +30,13 @@ struct TaxaQuery {
     bool synonyms = false;             ///< names that have a name to use as well
 };
 
-// Both wildcards that people know; every kind of database takes this one from the core.
-std::string patternOf(std::string text)
-{
-    std::ranges::replace(text, '*', '%');
-    return text.empty() ? kAny : text;
-}
-
-/// The patterns of a search, in buffers that it may write to.
-struct Patterns {
-    std::string category = kAny, genus = kAny, subgenus = kAny, species = kAny, subspecies = kAny;
-};
-
-bool isInBrackets(const std::string& word)
-{
-    return word.size() > 1 && word.front() == '(' && word.back() == ')';
-}
-
 // None when there are more words than a name has parts.
-std::optional<Patterns> patternsOf(const TaxaQuery& query)
+std::optional<TaxonPatterns> patternsOf(const TaxaQuery& query)
 {
-    Patterns patterns;
-    patterns.category = patternOf(query.category);
-    std::string* const parts[] = {&patterns.genus, &patterns.species, &patterns.subspecies};
-    std::size_t next = 0;
-    for (const std::string& argument : query.patterns) {
-        for (const std::string& word : wordsOf(argument)) {
-            if (isInBrackets(word))
-                patterns.subgenus = patternOf(word.substr(1, word.size() - 2));
-            else if (next < std::size(parts))
-                *parts[next++] = patternOf(word);
-            else
-                return std::nullopt;
-        }
-    }
-    return patterns;
+    std::vector<std::string> words;
+    for (const std::string& argument : query.patterns)
+        std::ranges::move(wordsOf(argument), std::back_inserter(words));
+    return taxonPatterns(words, query.category);
 }
 
 struct CodeRange {
@@ -91,24 +61,14 @@ std::optional<CodeRange> codesOf(std::string_view text)
     return good && codes.from <= codes.to ? std::optional(codes) : std::nullopt;
 }
 
-struct Scheme {
-    long id = 0;
-    std::string name;
-};
-
 // The scheme by its name or number; false with a text for the user.
-bool findScheme(const std::string& text, Scheme* out, std::string* error)
+bool findScheme(const std::string& text, SynonymyScheme* out, std::string* error)
 {
-    const std::string select =
-        "SELECT sch_id, name FROM " + sql::table("SYNSCH") + " ORDER BY name";
-    Cursor rows(select);
-    if (!rows) {
-        *error = "The synonymy schemes could not be read: " + select + "\n" + dbErrorText();
+    const auto schemes = synonymySchemes(error);
+    if (!schemes)
         return false;
-    }
     std::string known;
-    while (rows.next()) {
-        const Scheme scheme{rows.integer(1), shownText(rows.text(2))};
+    for (const SynonymyScheme& scheme : *schemes) {
         if (compareIgnoringCase(scheme.name, text) == 0 || std::to_string(scheme.id) == text) {
             *out = scheme;
             return true;
@@ -122,7 +82,7 @@ bool findScheme(const std::string& text, Scheme* out, std::string* error)
 
 std::string shownName(const Taxon& taxon) { return shownText(composedName(taxon, true)); }
 
-void write(TaxonList& taxa, bool withCode, const Scheme& scheme)
+void write(TaxonList& taxa, bool withCode, const SynonymyScheme& scheme)
 {
     std::vector<TextTable::Column> columns{{"number", Right}, {"category"}, {"name"}};
     if (withCode)
@@ -151,7 +111,7 @@ int listTaxa(const TaxaQuery& query)
     const auto codes = codesOf(query.codes);
     if (!codes)
         return failed("--codes " + query.codes + ": a range such as 100-200 is meant.");
-    Scheme scheme;
+    SynonymyScheme scheme;
     std::string error;
     if (!query.scheme.empty() && !findScheme(query.scheme, &scheme, &error))
         return failed(error);

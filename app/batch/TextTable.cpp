@@ -3,6 +3,8 @@
 
 #include "util/FixedText.h"
 
+#include <csv.h>
+
 #include <algorithm>
 #include <ostream>
 
@@ -32,6 +34,13 @@ char32_t codePoint(std::string_view bytes)
     for (const char byte : bytes.substr(1))
         c = (c << 6) | (static_cast<unsigned char>(byte) & 0x3F);
     return c;
+}
+
+std::string csvCell(const std::string& text)
+{
+    std::string cell(2 * text.size() + 2, '\0'); // as many as quoting can need
+    cell.resize(csv_write(cell.data(), cell.size(), text.data(), text.size()));
+    return cell;
 }
 
 } // namespace
@@ -66,6 +75,21 @@ void TextTable::writeRow(std::ostream& out, const std::vector<std::string>& cell
     }
     line.resize(line.find_last_not_of(' ') + 1);
     out << line << '\n';
+}
+
+void TextTable::writeCsv(std::ostream& out) const
+{
+    const auto writeLine = [&out](const auto& cells, const auto& textOf) {
+        const char* separator = "";
+        for (const auto& cell : cells) {
+            out << separator << csvCell(textOf(cell));
+            separator = ",";
+        }
+        out << "\n";
+    };
+    writeLine(columns_, [](const Column& column) { return column.title; });
+    for (const auto& row : rows_)
+        writeLine(row, [](const std::string& cell) { return cell; });
 }
 
 void TextTable::write(std::ostream& out) const

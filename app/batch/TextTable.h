@@ -26,6 +26,9 @@ public:
     /// Titles and rows, two blanks between columns, none at the ends of lines.
     void write(std::ostream& out) const;
 
+    /// Titles and rows as comma separated values, UTF-8, every cell quoted.
+    void writeCsv(std::ostream& out) const;
+
 private:
     void writeRow(std::ostream& out, const std::vector<std::string>& cells,
         const std::vector<std::size_t>& widths) const;

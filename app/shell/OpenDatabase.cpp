@@ -8,8 +8,10 @@
 #include "db/Literals.h"
 #include "db/SchemaInspection.h"
 #include "db/Session.h"
+#include "dict/EventLabels.h"
 #include "schema/Schema.h"
 #include "store/Create.h"
+#include "well/Sample.h"
 
 #include <filesystem>
 #include <system_error>
@@ -110,6 +112,13 @@ std::string missingFileProblem(const std::string& file)
     return fs::is_directory(status) ? file + " is a folder, not a database file." : std::string();
 }
 
+// What the core keeps for the process and asks nobody for later.
+void loadUserSettings()
+{
+    loadEventPrefixes();
+    Sample::LoadSplitSwitches();
+}
+
 std::string afterConnect(const ConnectionSettings& settings)
 {
     std::string error = setDateFormat(settings.kind);
@@ -117,7 +126,9 @@ std::string afterConnect(const ConnectionSettings& settings)
         error = versionProblem(settings.databaseFile);
     if (error.empty())
         error = findUser(settings.user);
-    if (!error.empty())
+    if (error.empty())
+        loadUserSettings();
+    else
         dbDisconnect();
     return error;
 }

@@ -1,0 +1,66 @@
+// app/batch/WellArgument.cpp
+#include "app/batch/WellArgument.h"
+
+#include "app/batch/Failure.h"
+#include "app/shell/FindWell.h"
+#include "taxonomy/Disciplines.h"
+#include "util/TextUtil.h"
+#include "well/Sample.h"
+
+#include <iostream>
+
+std::unique_ptr<LoadedWell> wellOf(const std::string& text)
+{
+    std::string error;
+    const long id = findWell(text, &error);
+    if (id != 0)
+        return std::make_unique<LoadedWell>(id);
+    failed(error);
+    return nullptr;
+}
+
+std::unique_ptr<LoadedWell> loadedWellOf(const std::string& text)
+{
+    std::unique_ptr<LoadedWell> loaded = wellOf(text);
+    if (!loaded)
+        return nullptr;
+    for (const LoadStep& step : loadAll(*loaded))
+        writeReports(step);
+    return loaded;
+}
+
+void writeReports(const LoadStep& step)
+{
+    for (const std::string& report : step.reports)
+        std::cerr << step.name << ": " << report << '\n';
+}
+
+char disciplineOf(const std::string& text)
+{
+    const Discs disciplines;
+    std::string known;
+    for (const Discs::Entry& entry : disciplines.entries) {
+        if (entry.letter == 0)
+            continue;
+        const std::string letter(1, entry.letter);
+        if (compareIgnoringCase(text, letter) == 0
+            || compareIgnoringCase(text, std::string(entry.name.view())) == 0)
+            return entry.letter;
+        known += (known.empty() ? "" : ", ") + letter + " (" + std::string(entry.name.view()) + ')';
+    }
+    failed("There is no discipline " + text + '.'
+        + (known.empty() ? " The database has none." : " There are: " + known + '.'));
+    return 0;
+}
+
+std::string depthText(float depth) { return isAbsentDepth(depth) ? "" : fixedString(depth, 2); }
+
+std::string sampleDepthText(const Sample& sample, char units)
+{
+    constexpr int kShort = 1, kWithRange = 1, kNoForce = 0, kNoShift = 0, kNoLabel = 0;
+    const bool hasDepth = !isAbsentDepth(sample.GetDepth(units, 0, 0));
+    return hasDepth ? sample.DepthLabel(units, kShort, kWithRange, kNoForce, kNoShift, kNoLabel)
+                    : "";
+}
+
+std::string unitTitle(char units) { return units == 'F' ? " [ft]" : " [m]"; }
