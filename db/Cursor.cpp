@@ -1,10 +1,18 @@
 // db/Cursor.cpp
 #include "db/Cursor.h"
 
+#include "db/BoundRow.h"
 #include "db/Columns.h"
 #include "db/Session.h"
 #include "db/SessionState.h"
 #include "util/TextUtil.h"
+
+namespace {
+
+// Binding costs about as much as reading two rows singly, and most results are shorter than this.
+constexpr short kSingleRows = 12;
+
+} // namespace
 
 Cursor::Cursor(const std::string& sql)
     : number_(dbExecute(sql))
@@ -13,20 +21,61 @@ Cursor::Cursor(const std::string& sql)
 
 Cursor::~Cursor() { close(); }
 
-bool Cursor::next() { return dbFetch(number_) == 0; }
-
-long Cursor::integer(short column) const { return dbGetLong(number_, column); }
-
-double Cursor::number(short column) const { return dbGetDouble(number_, column); }
-
-std::string Cursor::text(short column) const
+bool Cursor::next()
 {
-    std::string whole = columns::readText(session::statementOf(number_), column);
-    whole.resize(trimmedRight(whole).size());
-    return whole;
+    if (bound_)
+        return bound_->fetch();
+    if (singleRows_ < kSingleRows)
+        ++singleRows_;
+    else if (singleRows_ == kSingleRows && number_ != 0) {
+        ++singleRows_;
+        bound_ = BoundRow::bind(session::statementOf(number_), uses_);
+        return next();
+    }
+    return dbFetch(number_) == 0;
 }
 
-char Cursor::letter(short column) const { return dbGetChar(number_, column); }
+// What is read in several ways is left to the driver, which converts anew each time.
+void Cursor::use(short column, ColumnUse use) const
+{
+    const auto index = static_cast<std::size_t>(column - 1);
+    if (bound_ || index >= uses_.size())
+        return;
+    ColumnUse& known = uses_[index];
+    known = known == ColumnUse::None || known == use ? use : ColumnUse::Several;
+}
+
+long Cursor::integer(short column) const
+{
+    use(column, ColumnUse::Integer);
+    const auto bound = bound_ ? bound_->integer(column) : std::nullopt;
+    return bound ? *bound : dbGetLong(number_, column);
+}
+
+double Cursor::number(short column) const
+{
+    use(column, ColumnUse::Number);
+    const auto bound = bound_ ? bound_->number(column) : std::nullopt;
+    return bound ? *bound : dbGetDouble(number_, column);
+}
+
+std::string Cursor::text(short column) const { return std::string(view(column)); }
+
+std::string_view Cursor::view(short column) const
+{
+    use(column, ColumnUse::Text);
+    if (const auto bound = bound_ ? bound_->text(column) : std::nullopt)
+        return trimmedRight(*bound);
+    long_ = columns::readText(session::statementOf(number_), column);
+    return trimmedRight(long_);
+}
+
+char Cursor::letter(short column) const
+{
+    use(column, ColumnUse::Letter);
+    const auto bound = bound_ ? bound_->letter(column) : std::nullopt;
+    return bound ? *bound : dbGetChar(number_, column);
+}
 
 long Cursor::rowCount() const { return dbRowCount(number_); }
 
@@ -34,7 +83,9 @@ int Cursor::close()
 {
     const short number = number_;
     number_ = 0;
-    return dbCloseCursor(number);
+    const int result = dbCloseCursor(number);
+    bound_.reset(); // once the driver knows the buffers no more
+    return result;
 }
 
 bool runStatement(const std::string& sql) { return static_cast<bool>(Cursor(sql)); }

@@ -1,13 +1,21 @@
 // db/Cursor.h
 #pragma once
 
+#include "db/ColumnUse.h"
 #include "db/ErrorReporter.h"
 
+#include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 
+class BoundRow;
+
 /// A running statement of the session that closes itself: the way this system reads rows.
 /// Opens with `dbExecute`, so it occupies a cursor number; construct late, let it go early.
+///
+/// A long result is read faster from its second dozen of rows on: the columns are bound then, as
+/// they have been read until there. What is read stays the same, whatever is read when.
 class Cursor {
 public:
     /// Runs `sql`. Test the object: false when the statement could not be run (nothing reported).
@@ -29,6 +37,8 @@ public:
     double number(short column) const;
     /// The whole text, however long, trailing white space, control characters and blanks removed.
     std::string text(short column) const;
+    /// The same without a copy, valid until the next call of this function or `next`.
+    std::string_view view(short column) const;
     char letter(short column) const;
 
     /// Rows that the statement affected, or -1.
@@ -38,7 +48,13 @@ public:
     int close();
 
 private:
+    void use(short column, ColumnUse use) const;
+
     short number_;
+    short singleRows_ = 0;                     // so many rows have been read column by column
+    mutable std::array<ColumnUse, 32> uses_{}; // of the columns from 1; any further stay unbound
+    std::unique_ptr<BoundRow> bound_;          // null until the columns are bound
+    mutable std::string long_;                 // what `view` gives of texts that are not bound
 };
 
 /// Runs a statement that returns no rows and closes it. False when it could not be run; nothing is

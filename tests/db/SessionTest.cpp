@@ -8,6 +8,7 @@
 
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@
 namespace {
 
 using testing::ElementsAre;
+using testing::ElementsAreArray;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -224,6 +226,48 @@ TEST_F(Session, ColumnsByEachReader)
         EXPECT_EQ(row.letter, dbGetChar(cursor.number(), 4)) << e;
         EXPECT_STREQ(row.text, text) << "another reader has a buffer of its own";
         EXPECT_EQ("", cursor.text(5)) << "one that is not there";
+    }
+}
+
+// One value by each reader, and by one that earlier rows were not read with.
+std::string byEachReader(const Cursor& row, bool otherwise)
+{
+    const std::string integer = std::to_string(row.integer(1));
+    const std::string number = std::to_string(row.number(2));
+    const std::string text = row.text(3) + std::string(1, row.letter(4));
+    return integer + " " + number + " " + text + (otherwise ? row.text(5) + row.text(1) : "");
+}
+
+TEST_F(Session, ALongResultReadsAsItsSingleRows)
+{
+    const std::vector<std::string> values{"1", "NULL", "''", "-7", "2147483648", "2.75", "'x'",
+        "'7  '", "x'4142'", "'" + std::string(255, 'y') + "'", "'" + std::string(256, 'y') + "'",
+        "'" + std::string(5000, 'y') + "'", "1e300"};
+    const std::size_t start = 30; // far enough for the columns to be bound
+    const std::string query = "SELECT n,n,v,v,v FROM NO_SUCH_VALUES";
+    database.run("CREATE TABLE NO_SUCH_VALUES (id INTEGER PRIMARY KEY, n, v)");
+    std::vector<std::string> rows(start, "1, 1"); // then each value as a number and as a text
+    for (const std::string& value : values)
+        rows.insert(rows.end(), {value + ", 1", "1, " + value});
+    std::vector<std::string> expected;
+    for (std::size_t id = 0; id < rows.size(); ++id) {
+        database.run(
+            "INSERT INTO NO_SUCH_VALUES VALUES (" + std::to_string(id) + ", " + rows[id] + ")");
+        Cursor single(query + " WHERE id = " + std::to_string(id));
+        ASSERT_TRUE(single.next());
+        expected.push_back(byEachReader(single, id >= start));
+    }
+    for (const auto& [call, times] : {std::pair("none", 1), std::pair("SQLGetInfo", 1),
+             std::pair("SQLBindCol", 1), std::pair("SQLBindCol", 3), std::pair("SQLFetch", 36)}) {
+        const DriverFault fault(times, call);
+        Cursor all(query + " ORDER BY id");
+        std::vector<std::string> read;
+        while (all.next())
+            read.push_back(byEachReader(all, read.size() >= start));
+        if (std::string(call) == "SQLFetch")
+            read.insert(read.end(), expected.begin() + 35, expected.end());
+        EXPECT_THAT(read, ElementsAreArray(expected)) << call << times;
+        EXPECT_EQ(call != std::string("none"), fault.fired()) << call << times;
     }
 }
 
