@@ -76,16 +76,23 @@ SQLRETURN outOfRange(const Cell& cell, Diagnostics& diagnostics)
 }
 
 template <class T>
+SQLRETURN writeWhole(
+    std::int64_t n, const Cell& cell, const Target& target, Diagnostics& diagnostics)
+{
+    return std::in_range<T>(n) ? writeFixed(static_cast<T>(n), target)
+                               : outOfRange(cell, diagnostics);
+}
+
+template <class T>
 SQLRETURN writeInteger(const Cell& cell, const Target& target, Diagnostics& diagnostics)
 {
+    if (cell.kind == ValueKind::Integer)
+        return writeWhole<T>(cell.integer, cell, target, diagnostics);
     const auto number = numberOf(cell);
     if (!number)
         return diagnostics.fail("22018", shownOf(cell) + " is no number");
-    if (number->isInteger) {
-        if (!std::in_range<T>(number->integer))
-            return outOfRange(cell, diagnostics);
-        return writeFixed(static_cast<T>(number->integer), target);
-    }
+    if (number->isInteger)
+        return writeWhole<T>(number->integer, cell, target, diagnostics);
     // Both borders are exact in double, the upper one as the first value that is too much.
     const double whole = std::trunc(number->real);
     const double above = std::ldexp(1.0, std::numeric_limits<T>::digits);

@@ -52,7 +52,8 @@ template <class Work> SQLRETURN onStatement(SQLHSTMT handle, const char* functio
     if (!statement)
         return SQL_INVALID_HANDLE;
     statement->diagnostics().clear();
-    if (!statement->connection().isHidden() && faultStrikes(function, &statement->diagnostics()))
+    if (isFaultSet() && !statement->connection().isHidden()
+        && faultStrikes(function, &statement->diagnostics()))
         return SQL_ERROR;
     return guarded(statement->diagnostics(), [&] { return work(*statement); });
 }

@@ -155,7 +155,8 @@ SQLRETURN Statement::afterFirstStep(Step step, const Failure& failure)
     if (text_.kind == StatementKind::Define)
         connection_.forgetCompiled();
     rowCount_ = text_.kind == StatementKind::Change ? compiled_->changes() : -1;
-    if (rows_->columnCount() == 0) {
+    columnCount_ = rows_->columnCount();
+    if (columnCount_ == 0) {
         endRun();
         state_ = State::Done;
         return SQL_SUCCESS;
@@ -183,6 +184,7 @@ void Statement::endRun()
         compiled_->reset();
     own_.reset();
     rows_ = nullptr;
+    columnCount_ = 0;
     isPeeked_ = atEnd_ = onRow_ = false;
     rowNumber_ = 0;
     progressColumn_ = -1;
@@ -371,6 +373,7 @@ SQLRETURN Statement::showRows(std::unique_ptr<RowSource> rows, const Failure& fa
         return abandon(failure);
     own_ = std::move(rows);
     rows_ = own_.get();
+    columnCount_ = rows_->columnCount();
     rowCount_ = -1;
     state_ = State::Rows;
     return SQL_SUCCESS;

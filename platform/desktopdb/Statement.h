@@ -96,7 +96,7 @@ private:
     const RowSource* described() const;
     const std::vector<DescribedColumn>& columns();
     bool checkColumn(SQLUSMALLINT number);
-    SQLRETURN deliverCell(int column, Target target, Progress& progress);
+    SQLRETURN deliverCell(int column, const Target& target, Progress& progress);
 
     Connection& connection_;
     Diagnostics diagnostics_;
@@ -108,6 +108,7 @@ private:
     std::unique_ptr<EngineStatement> compiled_;
     std::unique_ptr<RowSource> own_;
     RowSource* rows_ = nullptr; // the compiled statement or the driver's own rows
+    int columnCount_ = 0;       // of `rows_`, which would have to ask the engine for each value
     Parameters parameters_;
     std::vector<Value> values_; // of this run, by the application's numbers
 

@@ -2,6 +2,8 @@
 // The rows and columns of a statement's result.
 #include "platform/desktopdb/Statement.h"
 
+#include <algorithm>
+
 namespace desktopdb {
 
 Step Statement::nextRow(Failure& failure)
@@ -83,23 +85,29 @@ Target Statement::targetOf(const Target& bound, SQLULEN row) const
 SQLRETURN Statement::deliverBound(SQLULEN row)
 {
     SQLRETURN worst = SQL_SUCCESS;
-    for (size_t i = 0; i < bound_.size() && i < static_cast<size_t>(rows_->columnCount()); ++i) {
-        if (!bound_[i].buffer && !bound_[i].indicator)
+    const bool asBound = row == 0 && !bindOffset_;
+    const size_t count = std::min(bound_.size(), static_cast<size_t>(columnCount_));
+    for (size_t i = 0; i < count; ++i) {
+        const Target& bound = bound_[i];
+        if (!bound.buffer && !bound.indicator)
             continue;
         Progress progress;
-        const SQLRETURN result =
-            deliverCell(static_cast<int>(i), targetOf(bound_[i], row), progress);
+        const int column = static_cast<int>(i);
+        const SQLRETURN result = asBound ? deliverCell(column, bound, progress)
+                                         : deliverCell(column, targetOf(bound, row), progress);
         if (result == SQL_ERROR || worst == SQL_SUCCESS)
             worst = result;
     }
     return worst;
 }
 
-SQLRETURN Statement::deliverCell(int column, Target target, Progress& progress)
+SQLRETURN Statement::deliverCell(int column, const Target& target, Progress& progress)
 {
-    if (target.cType == SQL_C_DEFAULT)
-        target.cType = defaultCType(columns()[static_cast<size_t>(column)].type.sqlType);
-    return deliver(rows_->cell(column), target, progress, diagnostics_);
+    if (target.cType != SQL_C_DEFAULT)
+        return deliver(rows_->cell(column), target, progress, diagnostics_);
+    Target typed = target;
+    typed.cType = defaultCType(columns()[static_cast<size_t>(column)].type.sqlType);
+    return deliver(rows_->cell(column), typed, progress, diagnostics_);
 }
 
 SQLRETURN Statement::getData(SQLUSMALLINT number, const Target& target)
@@ -108,9 +116,9 @@ SQLRETURN Statement::getData(SQLUSMALLINT number, const Target& target)
         return diagnostics_.fail("HY010", "the statement waits for parameter data");
     if (state_ != State::Rows || !onRow_)
         return diagnostics_.fail("24000", "the cursor is not on a row");
-    if (!checkColumn(number))
-        return SQL_ERROR;
     const int column = number - 1;
+    if ((column < 0 || column >= columnCount_) && !checkColumn(number))
+        return SQL_ERROR;
     if (progressColumn_ != column) {
         progressColumn_ = column;
         progress_ = {};

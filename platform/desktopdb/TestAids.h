@@ -27,12 +27,12 @@ extern std::atomic<bool> recording;
 bool countCall(const char* function, Diagnostics* diagnostics);
 } // namespace testaids
 
+inline bool isFaultSet() { return testaids::faultSet.load(std::memory_order_relaxed); }
 /// Counts a call of `function`; when this is the one to fail, true with the failure noted in
 /// `diagnostics`, unless they are null.
 inline bool faultStrikes(const char* function, Diagnostics* diagnostics)
 {
-    return testaids::faultSet.load(std::memory_order_relaxed)
-        && testaids::countCall(function, diagnostics);
+    return isFaultSet() && testaids::countCall(function, diagnostics);
 }
 
 inline bool isRecording() { return testaids::recording.load(std::memory_order_relaxed); }
