@@ -3,8 +3,7 @@
 #include "db/Session.h"
 #include "dict/Abntrans.h"
 #include "dict/AbundanceSchemes.h"
-#include "tests/support/MessageLog.h"
-#include "tests/support/TestDatabase.h"
+#include "tests/support/FaultTable.h"
 
 #include <memory>
 
@@ -12,10 +11,7 @@
 #include <gtest/gtest.h>
 
 using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::SizeIs;
-using testing::StartsWith;
 
 using Texts = std::vector<std::string>;
 
@@ -131,11 +127,9 @@ TEST(Abntrans, GivesTheFirstOfItsKey)
     }
 }
 
-class Schemes : public testing::Test {
-protected:
-    Schemes()
+struct SchemeData {
+    SchemeData()
     {
-        GTEST_FLAG_SET(death_test_style, "threadsafe");
         db.run("INSERT INTO ABNSCHME VALUES (7, 'Seven'), (8, 'eight'), (9, 'Empty')");
         db.run("INSERT INTO ABNSCHMBR (scheme_id, entry_no, entry_name, abr, min, output_val)"
                " VALUES (7, 2, '  Rare', ' R', 1, 0), (7, 1, 'Present', 'P', NULL, 4),"
@@ -145,8 +139,9 @@ protected:
     }
 
     TestDatabase db;
-    MessageLog screen;
 };
+
+class Schemes : public testing::Test, protected SchemeData {};
 
 std::string table(const std::string& name) { return testSettings().prefix + name; }
 
@@ -234,76 +229,32 @@ TEST_F(Schemes, AllInOrderOfTheirNames)
         ElementsAre("SELECT scheme_id, name FROM " + table("ABNSCHME") + " ORDER BY name"));
 }
 
-struct FaultCase {
-    const char* name;
-    std::string (*run)();
-    /// The statement and the result when it does not run, in order of the statements; the results
-    /// when each row is not fetched.
-    std::vector<std::pair<std::string, std::string>> statements;
-    Texts unfetched;
-};
-
-std::string loaded(void (*load)(Abns&))
-{
-    Abns scheme;
-    load(scheme);
-    return textOf(scheme);
-}
-
-const Texts kSevenCut = {
-    "0 :", "7 Seven:", "7 Seven: P,Present,0,4", "7 Seven: P,Present,0,4 R,Rare,1,0", kSeven};
-
-const FaultCase kFaults[] = {
-    {"loadByName", [] { return loaded([](Abns& s) { s.loadByName("Seven"); }); },
-        {{"SELECT scheme_id FROM", "0 :"}, {"SELECT entry_name", "7 Seven:"}}, kSevenCut},
-    {"loadById", [] { return loaded([](Abns& s) { s.loadById(7); }); },
-        {{"SELECT name FROM", "0 :"}, {"SELECT entry_name", "7 Seven:"}}, kSevenCut},
-    {"allSchemes",
-        [] {
+const FaultCase<SchemeData> kFaults[] = {
+    {"by name",
+        [](SchemeData&) {
+            Abns scheme;
+            scheme.loadByName("Seven");
+            return textOf(scheme);
+        },
+        {{1, "Error in: SELECT scheme_id FROM", "0 :", "0 :", true},
+            {2, "Error in: SELECT entry_name", "7 Seven:", "7 Seven:", true}}},
+    {"by identifier",
+        [](SchemeData&) {
+            Abns scheme;
+            scheme.loadById(7);
+            return textOf(scheme);
+        },
+        {{1, "Error in: SELECT name FROM", "0 :", "0 :", true},
+            {2, "Error in: SELECT entry_name", "7 Seven:", "7 Seven:", true}}},
+    {"all",
+        [](SchemeData&) {
             const std::unique_ptr<ItemList> all(allSchemes());
             return std::to_string(all->count);
         },
-        {{"SELECT scheme_id, name", "0"}}, {"0", "1", "2", "3"}},
+        {{1, "Error in: SELECT scheme_id, name", "0", "0", true}}},
 };
 
-void expectAfter(
-    const FaultCase& c, int n, const char* call, const std::string& text, const std::string& result)
-{
-    const DriverFault fault(n, call, DriverFault::Once, "HY000", text);
-    EXPECT_EQ(result, c.run()) << c.name << call << n;
-    EXPECT_TRUE(fault.fired()) << c.name << call << n;
-    const short free = dbExecute("SELECT 1");
-    EXPECT_EQ(1, free) << c.name << call << n;
-    dbCloseCursor(free);
-}
-
-TEST_F(Schemes, EachDriverCallFailing)
-{
-    for (const FaultCase& c : kFaults) {
-        int n = 0;
-        for (const auto& [statement, result] : c.statements) {
-            screen.clear();
-            expectAfter(c, ++n, "SQLExecDirect", "ORA-03113: lost", result); // restored: goes on
-            EXPECT_THAT(screen.texts(),
-                ElementsAre(StartsWith("Error in: " + statement), HasSubstr("ORA-03113: lost"),
-                    StartsWith("Press OK")));
-        }
-        screen.clear();
-        n = 0;
-        for (const std::string& result : c.unfetched)
-            expectAfter(c, ++n, "SQLFetch", "not fetched", result);
-        EXPECT_THAT(screen.texts(), IsEmpty());
-    }
-}
-
-TEST_F(Schemes, AFaultEndsTheProcess)
-{
-    screen.echo();
-    for (const FaultCase& c : kFaults) {
-        const DriverFault fault(1, "SQLExecDirect");
-        EXPECT_EXIT(c.run(), testing::ExitedWithCode(1),
-            "^box: Error in: " + c.statements[0].first + "[^\n]*\nbox: [^\n]*injected fault");
-    }
-}
+TEST(AbnsFaults, LeaveWhatWasReadAndAreReported) { expectFaults(kFaults); }
+TEST(AbnsFaults, EndTheProcessWhereTheyAreFatal) { expectEnds(kFaults); }
 
 } // namespace

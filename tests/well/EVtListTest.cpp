@@ -1,6 +1,4 @@
 #include "dict/EVdictList.h"
-#include "dict/EventLabels.h"
-#include "tests/support/Restore.h"
 #include "tests/well/WellTest.h"
 #include "util/TextUtil.h"
 
@@ -87,18 +85,15 @@ TEST_F(EVtLists, EveryEventGoesWhereAWalkPutsIt)
     }
 }
 
-TEST_F(EVtLists, TakeSamplesAndEntriesInThatTheyLack)
+TEST_F(EVtLists, ShareSamplesAndEntries)
 {
-    const Restore<FixedText<19>> prefix(eventBasePrefix, "Base");
     const EVt read(7, 5, 3, 'L', 1, samples, dictionary),
         again(7, 5, 3, 'F', 1, samples, dictionary);
-    const EVt missing(7, 5, 9, 'F', 9, samples, dictionary); // in another well
     EXPECT_EQ(read.sample, again.sample);
     EXPECT_EQ(read.entry, again.entry);
+    const EVt elsewhere(7, 5, 9, 'F', 9, samples, dictionary); // in another well
     EXPECT_EQ((Ids{0, 1}), idsOf(samples));
-    char label[kEventLabelRoom];
-    read.label(label);
-    EXPECT_EQ("Base b|9||", joined(label, missing.ev_id, missing.entry->name()));
+    EXPECT_STREQ("", elsewhere.entry->name());
 }
 
 } // namespace

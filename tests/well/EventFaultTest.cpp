@@ -8,14 +8,12 @@ namespace {
 struct Parts : WellData {
     Parts()
     {
-        db.run("INSERT INTO WELLTVD VALUES (7, 10, 1)");
-        db.run("INSERT INTO CORES VALUES (7, 100, 110, '7', 'Y')");
-        db.run("INSERT INTO CORESHIFT VALUES (7, 100, 2)");
-        db.run("INSERT INTO LITHDESC (lith_id) VALUES (5)");
-        db.run("INSERT INTO ZRSLITH (well_id, samp_id, lith_id) VALUES (7, 1, 5)");
-        db.run("INSERT INTO ZRSSR (well_id, samp_id, interp_id, ratio) VALUES (7, 1, 2, 0.5)");
-        db.run("INSERT INTO ZRLITHO VALUES (1, 9, 4)");
-        db.run("INSERT INTO EVENTDIC (ev_id, name) VALUES (3, 'b')");
+        for (const char* row : {"WELLTVD VALUES (7, 10, 1)", "ZRLITHO VALUES (1, 9, 4)",
+                 "CORES VALUES (7, 100, 110, '7', 'Y')", "CORESHIFT VALUES (7, 100, 2)",
+                 "LITHDESC (lith_id) VALUES (5)", "EVENTDIC (ev_id, name) VALUES (3, 'b')",
+                 "ZRSLITH (well_id, samp_id, lith_id) VALUES (7, 1, 5)",
+                 "ZRSSR (well_id, samp_id, interp_id, ratio) VALUES (7, 1, 2, 0.5)"})
+            db.run(std::string("INSERT INTO ") + row);
     }
     Sample one{7, 1, 1, "CU", 0, 0, 1};
 };

@@ -12,7 +12,6 @@ TEST_F(SampleData, LithologyIsReadWhenAskedFor)
     db.run("INSERT INTO LITHDESC (lith_id, descr, abr) VALUES (5, 'Chalk', 'chk'), (3, 'x', NULL)");
     db.run("INSERT INTO ZRSLITH (well_id, samp_id, lith_id, percnt) VALUES (7, 1, 5, 70),"
            " (7, 1, 3, 30), (7, 1, 4, 1), (7, 2, 5, 100), (8, 1, 5, 100)");
-    const StatementLog log;
     EXPECT_EQ(1, one.HasLithology());
     std::string text;
     for (const Slith* s : one.lithology)
@@ -20,11 +19,6 @@ TEST_F(SampleData, LithologyIsReadWhenAskedFor)
     EXPECT_EQ("1|3|x||30|1|5|Chalk|chk|70|", text);
     one.ClearLithology();
     EXPECT_EQ(0, one.HasLithology()) << "not read again";
-    EXPECT_EQ(Statements{"SELECT l.descr, l.abr, s.lith_id, s.percnt FROM " + table("ZRSLITH")
-                  + " s, " + table("LITHDESC")
-                  + " l WHERE s.well_id=7 AND s.samp_id=1 AND "
-                    "s.lith_id=l.lith_id ORDER BY s.lith_id"},
-        log.statements());
 }
 
 TEST_F(SampleData, AgesAreReplacedPerInterpretation)
