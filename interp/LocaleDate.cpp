@@ -4,7 +4,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <ctime>
+#include <iomanip>
 #include <locale>
+#include <sstream>
 
 namespace {
 
@@ -22,9 +25,21 @@ std::array<int, 3> numbersOf(std::string_view text)
     return numbers;
 }
 
+/// As the locale writes a day of which all three numbers differ: its facet for reading dates does
+/// not tell.
 std::time_base::dateorder localeOrder()
 {
-    return std::use_facet<std::time_get<char>>(std::locale()).date_order();
+    std::tm day{};
+    day.tm_mday = 22;
+    day.tm_mon = 11 - 1;
+    day.tm_year = 2033 - 1900;
+    std::ostringstream text;
+    text.imbue(std::locale());
+    text << std::put_time(&day, "%x");
+    const std::size_t dayAt = text.str().find("22"), monthAt = text.str().find("11");
+    if (text.str().find("33") < std::min(dayAt, monthAt))
+        return std::time_base::ymd;
+    return monthAt < dayAt ? std::time_base::mdy : std::time_base::dmy;
 }
 
 Date dayOf(int day, int month, int year)

@@ -1,0 +1,167 @@
+// tests/interp/SchemeTest.cpp
+#include "interp/IGDSchemeList.h"
+#include "interp/NameOrder.h"
+#include "interp/TermOrder.h"
+#include "tests/interp/InterpTest.h"
+
+#include <gmock/gmock.h>
+#include <random>
+
+namespace {
+
+using testing::ElementsAre;
+
+using Terms = std::vector<const igdDict*>;
+
+Ids keysOf(const auto& terms)
+{
+    Ids keys;
+    for (const igdDict* term : terms)
+        keys.push_back(term->igd_id);
+    return keys;
+}
+
+TEST(TermOrders, StopAtTheFirstMemberThat)
+{
+    struct Term : igdDict {
+        Term(float upper, int rank, float lower, const char* text)
+        {
+            u_age = upper, l_age = lower, hier = rank, name = text;
+        }
+    };
+    const struct {
+        const char* name;
+        Term at, added;
+        bool level, all;
+    } kCases[] = {
+        {"is older", {6, 1, 9, "A"}, {5, 1, 9, "B"}, true, false},
+        {"is older and named behind", {6, 1, 9, "C"}, {5, 1, 9, "B"}, true, true},
+        {"reaches further down", {5, 1, 9, "C"}, {5, 1, 8, "B"}, true, true},
+        {"is named behind, in bytes", {5, 1, 9, "b"}, {5, 1, 9, "Z"}, false, true},
+        {"has a lower rank number", {5, 1, 9, "C"}, {5, 2, 9, "B"}, true, false},
+        {"equals it", {5, 1, 9, "B"}, {5, 1, 9, "B"}, false, false},
+        {"is hardly younger", {5, 1, 9, "C"}, {5.0009f, 1, 8, "B"}, true, false},
+        {"is younger", {5, 1, 9, "C"}, {5.0011f, 1, 8, "B"}, false, false},
+        {"ends younger", {6, 1, 7, "C"}, {5, 1, 8, "B"}, true, false},
+    };
+    for (const auto& c : kCases) {
+        EXPECT_EQ(c.level, LevelOrder().stops(c.at, c.added)) << c.name;
+        EXPECT_EQ(c.all, AllTermsOrder().stops(c.at, c.added)) << c.name;
+    }
+}
+
+/// Where a walk from the front puts a term.
+template <typename Rule> void walkIn(Terms& terms, const igdDict* added)
+{
+    const auto at = std::find_if(terms.begin(), terms.end(),
+        [added](const igdDict* term) { return Rule().stops(*term, *added); });
+    terms.insert(at, added);
+}
+
+TEST_F(InterpTest, TermsStandWhereAWalkWouldPutThem)
+{
+    std::mt19937 random(7);
+    const auto below = [&random](unsigned n) { return std::to_string(random() % n); };
+    std::string rows;
+    for (int i = 0; i < 700; ++i)
+        rows += (i ? ", (" : "(") + std::to_string(100 + i) + ", 2, " + below(4) + ", " + below(3)
+            + ".000" + below(10) + ", " + below(6) + ", '" + (i % 2 ? "n" : "N") + below(40) + "')";
+    db.run("INSERT INTO IGD_DICT (igd_id, sch_id, hier, u_age, l_age, name) VALUES " + rows);
+    const igd_sch scheme(2, 1);
+    Terms level, all, names;
+    for (const std::string& key : db.rows("SELECT igd_id FROM IGD_DICT WHERE sch_id=2"
+                                          " ORDER BY u_age, hier, l_age")) {
+        const igdDict* term = scheme.findTermById(std::stol(key));
+        walkIn<AllTermsOrder>(all, term);
+        walkIn<NameOrder<igdDict>>(names, term);
+        if (term->hier == 3)
+            walkIn<LevelOrder>(level, term);
+    }
+    EXPECT_EQ(keysOf(all), keysOf(scheme.terms));
+    EXPECT_EQ(keysOf(names), keysOf(scheme.nameOrder));
+    EXPECT_EQ(keysOf(level), keysOf(scheme.levels[2]));
+    EXPECT_EQ(700u, all.size());
+}
+
+TEST_F(InterpTest, SchemeReadsItsTermsOnce)
+{
+    igd_sch scheme(1L, 0);
+    EXPECT_EQ("1|beta|3|1998-03-05|AB|0|70|0|",
+        joined(scheme.sch_id, scheme.name.view(), scheme.igd_type, scheme.created.isoText(),
+            scheme.creator.view(), scheme.youngestAge, scheme.oldestAge, scheme.nLevels));
+    const StatementLog log;
+    scheme.loadTerms();
+    scheme.loadTerms();
+    EXPECT_EQ(6u, log.statements().size()) << "the keys, then each term";
+    std::string text;
+    for (const igdDict* t : scheme.nameOrder)
+        text += joined(t->igd_id, t->hier, t->abr.view(), t->u_age, t->l_age, int(t->colour.red),
+            int(t->colour.blue), t->created.isoText(), t->creator.view());
+    EXPECT_EQ("12|7|L|30|66|0|1|||14|9|X9|1|2|255|255|||10|3|P|0|66|1|3|1998-04-06|CD|"
+              "13|1||66|70|255|255|||11|7|U|0|30|255|255|||",
+        text);
+    EXPECT_THAT(keysOf(scheme.levels[0]), ElementsAre(13)) << "an unranked term is of rank 1";
+    EXPECT_EQ(9, scheme.nLevels);
+    scheme.load(1, 1);
+    EXPECT_EQ(5, scheme.terms.count());
+}
+
+TEST_F(InterpTest, TermsAreFoundByNameAndAge)
+{
+    igd_sch scheme("beta", 0, 1);
+    std::string name = "as it was";
+    EXPECT_EQ(nullptr, scheme.findTermByName("period"));
+    EXPECT_EQ(10, scheme.termIdByName("pERIOD"));
+    EXPECT_EQ(0, scheme.termIdByAbr("none", name, 1));
+    EXPECT_EQ(12, scheme.termIdByAbr("l", name, 0));
+    EXPECT_EQ("as it was", name);
+    EXPECT_EQ(14, scheme.termIdByAbr("x9", name, 1));
+    EXPECT_EQ("Nameless", name);
+    const struct {
+        const char* rule;
+        float top, base;
+        int type;
+        Ids found; // one term, first, second
+    } kCases[] = {
+        {"the finest rank", 10, 20, 3, {11, 11, 0}},
+        {"both ends included, the older term second", 30, 30, 3, {11, 11, 0}},
+        {"a rank too wide gives both ends", 20, 40, 3, {10, 11, 12}},
+        {"wide enough for biozones", 20, 40, 41, {10, 10, 0}},
+        {"not for lithostratigraphy", 67, 68, 2, {13, 13, 13}},
+        {"no term holds both", 20, 69, 3, {0, 0, 0}},
+        {"older than its base", 10, 5, 3, {0, 0, 0}},
+    };
+    for (const auto& c : kCases) {
+        igdDict *first = nullptr, *second = nullptr;
+        scheme.igd_type = c.type;
+        scheme.findTermsForAges(c.top, c.base, &first, &second);
+        const igdDict* one = scheme.findTermForAges(c.top, c.base);
+        EXPECT_EQ(c.found,
+            (Ids{one ? one->igd_id : 0, first ? first->igd_id : 0, second ? second->igd_id : 0}))
+            << c.rule;
+    }
+}
+
+TEST_F(InterpTest, SchemesThatAreNotThere)
+{
+    const igd_sch empty(2L, 1), missing(99L, 1), unnamed("none", 10, 1), made(3);
+    EXPECT_EQ("99999|0|0|", joined(empty.youngestAge, empty.oldestAge, empty.nLevels));
+    EXPECT_EQ(nullptr, empty.findTermForAges(0, 0));
+    EXPECT_EQ("0|0|none|10|-2|3|1|-2|0|",
+        joined(missing.sch_id, missing.youngestAge, unnamed.name.view(), unnamed.igd_type,
+            unnamed.sch_id, made.igd_type, made.created == Date::Today(), igdDict().igd_id,
+            igdDict(99).igd_id));
+}
+
+TEST_F(InterpTest, SchemesStandByNameIgnoringCase)
+{
+    IGDSchemeList list;
+    list.load(); // again
+    Ids ids;
+    for (const igd_sch* scheme : list)
+        ids.push_back(scheme->sch_id);
+    EXPECT_THAT(ids, ElementsAre(3, 2, 1)) << "as the database gave ALPHA and Alpha";
+    EXPECT_EQ(66 + 4, list.findScheme(1)->oldestAge);
+}
+
+} // namespace
