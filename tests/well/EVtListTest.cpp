@@ -25,7 +25,6 @@ bool goesBefore(const EVt& added, const EVt& listed, bool byName, char wellType,
 }
 
 struct OrderCase {
-    const char* rule;
     int mode;
     char wellType;
     int reverse;
@@ -35,12 +34,12 @@ struct OrderCase {
 
 const float kNear = std::nextafter(100.0f, 101.0f); // 0.000008 m deeper
 const OrderCase kOrders[] = {
-    {"tops before bases, others anywhere", 0, 'W', 0, "FLSA", {100, kNear, 90, 110}},
-    {"bases before tops, deepest first", 0, 'O', 1, "FLSA", {100, kNear, 90, 110}},
-    {"grouped by names", 1, 'W', 0, "FLSA", {100, kNear, 90}},
-    {"a plain order", 1, 'O', 0, "FL", {100, 90, 110}},
-    {"a plain order, reversed", 0, 'W', 1, "FL", {100, 90, 110}},
-    {"blurred depths alone", 0, 'W', 0, "FL", {100, kNear, 90}},
+    {0, 'W', 0, "FLSA", {100, kNear, 90, 110}}, // tops before bases, others anywhere
+    {0, 'O', 1, "FLSA", {100, kNear, 90, 110}}, // bases before tops, deepest first
+    {1, 'W', 0, "FLSA", {100, kNear, 90}},      // grouped by names
+    {1, 'O', 0, "FL", {100, 90, 110}},          // a plain order
+    {0, 'W', 1, "FL", {100, 90, 110}},          // a plain order, reversed
+    {0, 'W', 0, "FL", {100, kNear, 90}},        // blurred depths alone
 };
 
 struct EVtLists : WellTest {
@@ -54,6 +53,7 @@ TEST_F(EVtLists, EveryEventGoesWhereAWalkPutsIt)
 {
     long samp_id = 100;
     for (const OrderCase& c : kOrders) {
+        SCOPED_TRACE(&c - kOrders);
         std::mt19937 random(7);
         EVtList list;
         std::vector<EVt*> plain;
@@ -73,15 +73,14 @@ TEST_F(EVtLists, EveryEventGoesWhereAWalkPutsIt)
                 c.kinds[random() % c.kinds.size()], samp_id, samples, dictionary);
             if (i == 100)
                 plain[3]->sample->SetBase(70, 'M');
-            EXPECT_EQ(insertPlain(evt, c.mode), list.insertSorted(evt, c.wellType, c.reverse))
-                << c.rule << i;
+            EXPECT_EQ(insertPlain(evt, c.mode), list.insertSorted(evt, c.wellType, c.reverse)) << i;
         }
-        EXPECT_EQ(plain, std::vector<EVt*>(list.begin(), list.end())) << c.rule;
+        EXPECT_EQ(plain, std::vector<EVt*>(list.begin(), list.end()));
         for (EVt* evt : std::exchange(plain, {}))
             insertPlain(evt, 1 - c.mode);
         list.sortBy(1 - c.mode, c.wellType, c.reverse);
         list.sortBy(1 - c.mode, c.wellType, 1 - c.reverse); // the mode already
-        EXPECT_EQ(plain, std::vector<EVt*>(list.begin(), list.end())) << c.rule;
+        EXPECT_EQ(plain, std::vector<EVt*>(list.begin(), list.end()));
     }
 }
 
