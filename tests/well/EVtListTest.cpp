@@ -35,7 +35,7 @@ struct OrderCase {
 const float kNear = std::nextafter(100.0f, 101.0f); // 0.000008 m deeper
 const OrderCase kOrders[] = {
     {0, 'W', 0, "FLSA", {100, kNear, 90, 110}}, // tops before bases, others anywhere
-    {0, 'O', 1, "FLSA", {100, kNear, 90, 110}}, // bases before tops, deepest first
+    {0, 'O', 1, "FLSA", {100, 90, 110}},        // bases before tops, deepest first
     {1, 'W', 0, "FLSA", {100, kNear, 90}},      // grouped by names
     {1, 'O', 0, "FL", {100, 90, 110}},          // a plain order
     {0, 'W', 1, "FL", {100, 90, 110}},          // a plain order, reversed
