@@ -4,7 +4,6 @@
 #include "bench/well_load/SqliteRows.h"
 #include "schema/Schema.h"
 
-#include <array>
 #include <cstdio>
 #include <random>
 #include <set>
@@ -39,17 +38,24 @@ long analysisOf(std::size_t discipline, long sample)
     return static_cast<long>(discipline) * 2 + 1 + sample / 10 % 2;
 }
 
-void addAnalyses(SqliteDatabase& db)
+long sampleOf(const GeneratedWell& well, long number) { return well.id * 1000000 + number; }
+
+void addUsers(SqliteDatabase& db)
 {
     SqliteRows user(db, "INSERT INTO USERDEF (user_id, abr) VALUES (?, ?)");
+    long id = 100;
+    for (const char* abbreviation : {"AB", "CDE", "FG", "HIJ"})
+        user.run(++id, abbreviation);
+}
+
+void addAnalyses(SqliteDatabase& db, const GeneratedWell& well)
+{
     SqliteRows analysis(db,
         "INSERT INTO ANALY_HDR (well_id, analy_id, disc_id, analyst, analy_no, red, green, blue, "
-        "abnsch_id) VALUES (1, ?, ?, ?, ?, 10, 20, 30, 1)");
-    const std::array abbreviations{"AB", "CDE", "FG", "HIJKL"};
+        "abnsch_id) VALUES (?, ?, ?, ?, ?, 10, 20, 30, 1)");
     for (long id = 1; id <= 4; ++id) {
-        user.run(100 + id, abbreviations[static_cast<std::size_t>(id) - 1]);
         const char letter[] = {GeneratedWell::kDisciplines[(id - 1) / 2], '\0'};
-        analysis.run(id, letter, 100 + id, id == 4 ? 2L : 1L);
+        analysis.run(well.id, id, letter, 100 + id, id == 4 ? 2L : 1L);
     }
 }
 
@@ -57,13 +63,13 @@ void addSamples(SqliteDatabase& db, const GeneratedWell& well, Values& values)
 {
     SqliteRows sample(db,
         "INSERT INTO SAMPLES (samp_id, well_id, top_depth, base_depth, depth, bot_depth, type, "
-        "label, grid_x, grid_y, created, modified, creator, modifier) VALUES (?, 1, ?2, ?3, ?2, "
-        "?3, ?, ?, ?, ?, '2001-02-03', '2004-05-06', 'AB', 'CDE')");
+        "label, grid_x, grid_y, created, modified, creator, modifier) VALUES (?, ?, ?3, ?4, ?3, "
+        "?4, ?, ?, ?, ?, '2001-02-03', '2004-05-06', 'AB', 'CDE')");
     for (long id = 1; id <= well.samples; ++id) {
         const double top = 500 + static_cast<double>(id) * 0.5;
         const std::string label = values.oneIn(3) ? "S" + std::to_string(id) : "";
-        sample.run(
-            id, top, top + 0.25, values.of(kTypes), label.c_str(), values.below(900), 7 + id % 50);
+        sample.run(sampleOf(well, id), well.id, top, top + 0.25, values.of(kTypes), label.c_str(),
+            values.below(900), 7 + id % 50);
     }
 }
 
@@ -71,11 +77,11 @@ void addDetails(SqliteDatabase& db, const GeneratedWell& well, Values& values)
 {
     SqliteRows detail(db,
         "INSERT INTO SMPDTL (well_id, samp_id, analy_id, picker, source, barren, modified, "
-        "modifier, weight, coarse, medium, fine, notes, proximal, distal) VALUES (1, ?, ?, 'AB', "
+        "modifier, weight, coarse, medium, fine, notes, proximal, distal) VALUES (?, ?, ?, 'AB', "
         "'SRC', ?, '2004-05-06', 'CDE', ?, ?, 1.0, 0.5, ?, ?, ?)");
     for (long id = 1; id <= well.samples; ++id)
         for (std::size_t d = 0; d < std::size(GeneratedWell::kDisciplines); ++d)
-            detail.run(id, analysisOf(d, id), values.oneIn(30) ? "Y" : "N",
+            detail.run(well.id, sampleOf(well, id), analysisOf(d, id), values.oneIn(30) ? "Y" : "N",
                 static_cast<double>(values.below(40)) / 4, values.oneIn(2) ? 0.25 : 1.0,
                 values.of(kNotes), values.below(5), values.below(5));
 }
@@ -85,7 +91,7 @@ void addOccurrences(SqliteDatabase& db, const GeneratedWell& well, Values& value
     SqliteRows occurrence(db,
         "INSERT INTO TAXONOCC (well_id, samp_id, spec_id, analy_id, disc_id, status, ident_type, "
         "abund, caved, marker, medium, coarse, fine, spec_type_id, preserv, colour, comments) "
-        "VALUES (1, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     for (long id = 1; id <= well.samples; ++id)
         for (std::size_t d = 0; d < std::size(GeneratedWell::kDisciplines); ++d) {
             const char letter[] = {GeneratedWell::kDisciplines[d], '\0'};
@@ -93,18 +99,18 @@ void addOccurrences(SqliteDatabase& db, const GeneratedWell& well, Values& value
             while (static_cast<long>(taxa.size()) < well.occurrencesPerDetail)
                 taxa.insert(1 + values.below(well.taxa));
             for (const long taxon : taxa)
-                occurrence.run(id, taxon, analysisOf(d, id), letter, values.oneIn(20) ? "R" : "I",
-                    values.oneIn(12) ? "?" : "P", values.of(kAbundances),
-                    values.oneIn(40) ? "C" : nullptr, values.oneIn(50) ? "Y" : nullptr,
-                    values.below(120), values.below(10), values.below(30), 0L,
-                    values.of(kPreservations), values.of(kColours),
+                occurrence.run(well.id, sampleOf(well, id), taxon, analysisOf(d, id), letter,
+                    values.oneIn(20) ? "R" : "I", values.oneIn(12) ? "?" : "P",
+                    values.of(kAbundances), values.oneIn(40) ? "C" : nullptr,
+                    values.oneIn(50) ? "Y" : nullptr, values.below(120), values.below(10),
+                    values.below(30), 0L, values.of(kPreservations), values.of(kColours),
                     values.oneIn(20) ? values.of(kRemarks) : nullptr);
         }
 }
 
 } // namespace
 
-void generate(const GeneratedWell& well, const std::string& file)
+void generate(std::span<const GeneratedWell> wells, const std::string& file)
 {
     for (const char* ending : {"", "-wal", "-shm"})
         std::remove((file + ending).c_str());
@@ -114,14 +120,14 @@ void generate(const GeneratedWell& well, const std::string& file)
     db.run("BEGIN");
     for (const std::string_view statement : schemaStatements())
         db.run(statement);
-    Values values;
-    addAnalyses(db);
-    addSamples(db, well, values);
-    addDetails(db, well, values);
-    addOccurrences(db, well, values);
-    db.run("INSERT INTO WELL_IDENT (well_id, well_code) VALUES (1, 'GEN')");
-    db.run("INSERT INTO WELLS (well_code, well_name, type, units) "
-           "VALUES ('GEN', 'Generated', 'W', 'M')");
+    addUsers(db);
+    for (const GeneratedWell& well : wells) {
+        Values values;
+        addAnalyses(db, well);
+        addSamples(db, well, values);
+        addDetails(db, well, values);
+        addOccurrences(db, well, values);
+    }
     db.run("COMMIT");
-    db.run("PRAGMA journal_mode=WAL");
+    db.run("PRAGMA journal_mode=WAL"); // as the driver leaves it
 }

@@ -1,14 +1,16 @@
 // bench/well_load/GeneratedWell.h
 #pragma once
 
+#include <span>
 #include <string>
 
-/// The well that the benchmarks load: its identifier, and how large it is.
+/// A well of the benchmarks. Every sample has details in each discipline; of the two analysts that
+/// a discipline has, one looked at it.
 struct GeneratedWell {
-    static constexpr long kId = 1;
-    /// The letters of its disciplines. Each has two analysts, who share the samples.
+    /// The letters of the disciplines.
     static constexpr char kDisciplines[] = {'M', 'N'};
 
+    long id = 1;
     long samples = 5000;
     long taxa = 2000;
     long occurrencesPerDetail = 50;
@@ -17,6 +19,6 @@ struct GeneratedWell {
     long occurrences() const { return details() * occurrencesPerDetail; }
 };
 
-/// Makes a database with the shipped tables that holds the well, the same one each time. An old
-/// file of that name is replaced. Ends the process with a message when the file cannot be made.
-void generate(const GeneratedWell& well, const std::string& file);
+/// Makes a database with the shipped tables that holds the wells, the same ones each time. An old
+/// file of that name is replaced. Ends the process with a message when it cannot be made.
+void generate(std::span<const GeneratedWell> wells, const std::string& file);

@@ -77,8 +77,8 @@ private:
     {
         T value = 0;
         SQLLEN indicator = 0;
-        OdbcDatabase::check(SQLGetData(statement_, static_cast<SQLUSMALLINT>(column), type, &value,
-            sizeof value, &indicator));
+        OdbcDatabase::check(SQLGetData(
+            statement_, static_cast<SQLUSMALLINT>(column), type, &value, sizeof value, &indicator));
         return indicator == SQL_NULL_DATA ? T{0} : value;
     }
 
