@@ -47,18 +47,18 @@ bool DepthOrder::stops(const IGDBase& at, const IGDBase& added) const
                                     : goesBeforeThinner(at.getBase(0), added.getBase(0));
 }
 
-bool DepthOrder::mayStop(const Reach& block, const IGDBase& added) const
+bool DepthOrder::mayStop(const Reach& branch, const IGDBase& added) const
 {
-    if (isBelow(block.deepestTop, added.getTop(0)))
+    if (isBelow(branch.deepestTop, added.getTop(0)))
         return true;
-    if (isClearlyAbove(block.deepestTop, added.getTop(0)))
+    if (isClearlyAbove(branch.deepestTop, added.getTop(0)))
         return false;
     const bool ranksTell = sameTop_ == SameTop::ThinnestFirstInRank;
     const int rank = rankOf(added);
-    const bool oneRank = block.lowestRank == rank && block.highestRank == rank;
-    const bool hasRank = block.lowestRank <= rank && rank <= block.highestRank;
+    const bool oneRank = branch.lowestRank == rank && branch.highestRank == rank;
+    const bool hasRank = branch.lowestRank <= rank && rank <= branch.highestRank;
     const bool thinnest = sameTop_ == SameTop::ThinnestFirst || (ranksTell && hasRank);
     const bool thickest = sameTop_ == SameTop::ThickestFirst || (ranksTell && !oneRank);
-    return (thinnest && goesBeforeThicker(block.deepestBase, added.getBase(0)))
-        || (thickest && goesBeforeThinner(block.shallowestBase, added.getBase(0)));
+    return (thinnest && goesBeforeThicker(branch.deepestBase, added.getBase(0)))
+        || (thickest && goesBeforeThinner(branch.shallowestBase, added.getBase(0)));
 }

@@ -18,7 +18,7 @@ class DepthOrder {
 public:
     using Member = IGDBase;
 
-    /// What the records of a block reach together.
+    /// What the records of a branch reach together.
     struct Reach {
         float deepestTop = -std::numeric_limits<float>::infinity();
         float shallowestTop = std::numeric_limits<float>::infinity();
@@ -38,7 +38,7 @@ public:
     /// Whether a record that comes in goes before `at`, a walk from the front having passed all
     /// records before it.
     bool stops(const IGDBase& at, const IGDBase& added) const;
-    bool mayStop(const Reach& block, const IGDBase& added) const;
+    bool mayStop(const Reach& branch, const IGDBase& added) const;
 
 private:
     bool thinnestFirst(const IGDBase& at, const IGDBase& added) const;

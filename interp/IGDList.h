@@ -78,7 +78,7 @@ public:
     /// 1 after an `insert` until the list is saved; 0 after loading. Removals do not count.
     int changed() const { return changed_; }
     void setChanged(int flag) { changed_ = flag; }
-    /// Whether all that the database has was read.
+    /// False when a failed statement kept records from being read.
     bool isComplete() const { return complete_; }
 
 private:

@@ -16,9 +16,9 @@ bool covers(const IGDBase& record, const IGDBase& zone)
     return record.getTop(0) <= zone.getTop(0) && record.getBase(0) >= zone.getBase(0);
 }
 
-bool mayCover(const DepthOrder::Reach& block, const IGDBase& zone)
+bool mayCover(const DepthOrder::Reach& branch, const IGDBase& zone)
 {
-    return block.shallowestTop <= zone.getTop(0) && block.deepestBase >= zone.getBase(0);
+    return branch.shallowestTop <= zone.getTop(0) && branch.deepestBase >= zone.getBase(0);
 }
 
 /// The depths of a zone under the name of its scheme.
@@ -76,8 +76,9 @@ void IGDList::addCoverage(const IGDList& list)
         if (!zone)
             continue;
         refresh();
-        const bool covered = places_.any([=](const auto& block) { return mayCover(block, *zone); },
-            [=](const IGDBase& member) { return covers(member, *zone); });
+        const bool covered =
+            places_.any([=](const auto& branch) { return mayCover(branch, *zone); },
+                [=](const IGDBase& member) { return covers(member, *zone); });
         if (!covered)
             insert(schemeZone(*zone).release());
     }

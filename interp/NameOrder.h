@@ -28,8 +28,8 @@ template <typename T> struct NameOrder {
     {
         return isGreater(at.name.view(), added.name.view());
     }
-    bool mayStop(const Reach& block, const T& added) const
+    bool mayStop(const Reach& branch, const T& added) const
     {
-        return isGreater(block.greatest, added.name.view());
+        return isGreater(branch.greatest, added.name.view());
     }
 };

@@ -5,18 +5,19 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
+#include <utility>
 #include <vector>
 
 /// Finds where a new member of a list goes when the rule is "before the first member at which a
 /// walk from the front stops", without that walk. Such a rule need not be a total order, so the
 /// members already there need not be sorted by it, and halving would find another place. Instead
-/// the places are kept in blocks, each with what its members reach together: a block in which the
-/// walk cannot stop is passed as a whole, which leaves about the square root of the length to look
-/// at.
+/// the places are the leaves of a tree of which each branch knows what its members reach together:
+/// a branch in which the walk cannot stop is passed as a whole.
 ///
 /// `Rule` has a `Member`, a `Reach` with `widen(const Member&)`, and
 ///   bool stops(const Member& at, const Member& added) const;   the rule itself
-///   bool mayStop(const Reach& block, const Member& added) const;   true wherever a member stops
+///   bool mayStop(const Reach& branch, const Member& added) const;   true wherever a member stops
 /// The index knows what it was told by `append` and `put` only: its owner tells when it is stale.
 template <typename Rule> class PlaceIndex {
 public:
@@ -27,7 +28,7 @@ public:
     {
     }
 
-    void clear() { blocks_.clear(); }
+    void clear() { root_ = {}; }
 
     /// Tells of the node behind all others.
     void append(GList::ListNode* node) { enter(end(), node); }
@@ -35,56 +36,49 @@ public:
     /// Puts `item` into the list that the index describes, at its place.
     void put(GList& list, Member* item)
     {
-        const Place before = first([&](const auto& reach) { return rule_.mayStop(reach, *item); },
-            [&](const Member& at) { return rule_.stops(at, *item); });
-        GList::ListNode* node = before.node(*this);
-        list.insertAt(node, item);
-        enter(before, node ? node->older : lastOf(list));
+        const auto may = [&](const Reach& reach) { return rule_.mayStop(reach, *item); };
+        const auto is = [&](const Member& at) { return rule_.stops(at, *item); };
+        Path path;
+        GList::ListNode* before = find(root_, may, is, path);
+        list.insertAt(before, item);
+        enter(before ? path : end(), before ? before->older : lastOf(list));
     }
 
-    /// Whether there is a member of which `is` holds; `may` tells of a block whether it could.
+    /// Whether there is a member of which `is` holds; `may` tells of a branch whether it could.
     template <typename May, typename Is> bool any(May may, Is is) const
     {
-        return first(may, is).node(*this) != nullptr;
+        Path path;
+        return find(root_, may, is, path) != nullptr;
     }
 
     /// The member at a position from 0 on, or null.
     Member* at(std::size_t position) const
     {
-        for (const Block& block : blocks_) {
-            if (position < block.nodes.size())
-                return memberOf(block.nodes[position]);
-            position -= block.nodes.size();
+        if (position >= root_.count)
+            return nullptr;
+        const Branch* branch = &root_;
+        while (!branch->branches.empty()) {
+            auto child = branch->branches.begin();
+            for (; position >= child->count; ++child)
+                position -= child->count;
+            branch = &*child;
         }
-        return nullptr;
+        return memberOf(branch->nodes[position]);
     }
 
 private:
     using Reach = typename Rule::Reach;
-    static constexpr std::size_t kLongest = 128;
+    using Path = std::vector<std::size_t>; ///< from the root; the last is the place in the leaf
+    static constexpr std::size_t kWidest = 32;
 
-    struct Block {
-        std::vector<GList::ListNode*> nodes;
+    /// Has branches, or, as a leaf, nodes of the list.
+    struct Branch {
         Reach reach;
+        std::size_t count = 0;
+        std::vector<Branch> branches;
+        std::vector<GList::ListNode*> nodes;
 
-        void measure()
-        {
-            reach = {};
-            for (const GList::ListNode* node : nodes)
-                reach.widen(*memberOf(node));
-        }
-    };
-
-    struct Place {
-        std::size_t block;
-        std::size_t entry; ///< behind the block's last only at the end of the list
-
-        GList::ListNode* node(const PlaceIndex& index) const
-        {
-            if (block == index.blocks_.size() || entry == index.blocks_[block].nodes.size())
-                return nullptr;
-            return index.blocks_[block].nodes[entry];
-        }
+        std::size_t width() const { return std::max(branches.size(), nodes.size()); }
     };
 
     static Member* memberOf(const GList::ListNode* node)
@@ -99,48 +93,96 @@ private:
         return fromBack.node();
     }
 
-    Place end() const
+    Path end() const
     {
-        return blocks_.empty() ? Place{0, 0}
-                               : Place{blocks_.size() - 1, blocks_.back().nodes.size()};
+        Path path;
+        const Branch* branch = &root_;
+        for (; !branch->branches.empty(); branch = &branch->branches.back())
+            path.push_back(branch->branches.size() - 1);
+        path.push_back(branch->nodes.size());
+        return path;
     }
 
-    template <typename May, typename Is> Place first(May may, Is is) const
+    /// The first node of which `is` holds and the path to it, or null.
+    template <typename May, typename Is>
+    static GList::ListNode* find(const Branch& branch, const May& may, const Is& is, Path& path)
     {
-        for (std::size_t b = 0; b < blocks_.size(); ++b) {
-            const auto& nodes = blocks_[b].nodes;
-            if (!may(blocks_[b].reach))
-                continue;
-            const auto found = std::find_if(nodes.begin(), nodes.end(),
-                [&](const GList::ListNode* node) { return is(*memberOf(node)); });
-            if (found != nodes.end())
-                return {b, static_cast<std::size_t>(found - nodes.begin())};
+        const auto leaf = std::find_if(branch.nodes.begin(), branch.nodes.end(),
+            [&is](const GList::ListNode* node) { return is(*memberOf(node)); });
+        if (leaf != branch.nodes.end()) {
+            path.push_back(static_cast<std::size_t>(leaf - branch.nodes.begin()));
+            return *leaf;
         }
-        return end();
+        path.push_back(0);
+        for (const Branch& child : branch.branches) {
+            GList::ListNode* found = may(child.reach) ? find(child, may, is, path) : nullptr;
+            if (found)
+                return found;
+            ++path.back();
+        }
+        path.pop_back();
+        return nullptr;
     }
 
-    void enter(Place place, GList::ListNode* node)
+    void enter(const Path& path, GList::ListNode* node)
     {
-        if (place.block == blocks_.size())
-            blocks_.emplace_back();
-        Block& block = blocks_[place.block];
-        block.nodes.insert(block.nodes.begin() + static_cast<std::ptrdiff_t>(place.entry), node);
-        block.reach.widen(*memberOf(node));
-        if (block.nodes.size() > kLongest)
-            split(place.block);
+        enter(root_, path.begin(), node);
+        if (root_.width() <= kWidest)
+            return;
+        Branch whole = std::exchange(root_, {});
+        root_.reach = whole.reach;
+        root_.count = whole.count;
+        root_.branches.push_back(std::move(whole));
+        split(root_.branches, 0);
     }
 
-    void split(std::size_t at)
+    static void enter(Branch& branch, typename Path::const_iterator step, GList::ListNode* node)
     {
-        const auto half = static_cast<std::ptrdiff_t>(kLongest / 2);
-        const auto added = blocks_.emplace(blocks_.begin() + static_cast<std::ptrdiff_t>(at) + 1);
-        Block& block = blocks_[at];
-        added->nodes.assign(block.nodes.begin() + half, block.nodes.end());
-        block.nodes.erase(block.nodes.begin() + half, block.nodes.end());
-        block.measure();
-        added->measure();
+        branch.reach.widen(*memberOf(node));
+        ++branch.count;
+        if (branch.branches.empty()) {
+            branch.nodes.insert(branch.nodes.begin() + static_cast<std::ptrdiff_t>(*step), node);
+            return;
+        }
+        enter(branch.branches[*step], std::next(step), node);
+        if (branch.branches[*step].width() > kWidest)
+            split(branch.branches, *step);
+    }
+
+    static void split(std::vector<Branch>& branches, std::size_t at)
+    {
+        const auto behind = static_cast<std::ptrdiff_t>(at) + 1;
+        Branch& added = *branches.emplace(branches.begin() + behind);
+        Branch& full = branches[at];
+        moveHalf(full.nodes, added.nodes);
+        moveHalf(full.branches, added.branches);
+        measure(full);
+        measure(added);
+    }
+
+    template <typename T> static void moveHalf(std::vector<T>& from, std::vector<T>& to)
+    {
+        const auto half = from.begin() + static_cast<std::ptrdiff_t>(from.size() / 2);
+        to.assign(std::make_move_iterator(half), std::make_move_iterator(from.end()));
+        from.erase(half, from.end());
+    }
+
+    static void measure(Branch& branch)
+    {
+        branch.reach = {};
+        branch.count = 0;
+        widen(branch, branch);
+    }
+
+    static void widen(Branch& outer, const Branch& inner)
+    {
+        for (const GList::ListNode* node : inner.nodes)
+            outer.reach.widen(*memberOf(node));
+        outer.count += inner.nodes.size();
+        for (const Branch& child : inner.branches)
+            widen(outer, child);
     }
 
     Rule rule_;
-    std::vector<Block> blocks_;
+    Branch root_;
 };

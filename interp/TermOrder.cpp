@@ -31,13 +31,13 @@ bool LevelOrder::stops(const igdDict& at, const igdDict& added) const
     return at.hier < added.hier || isOlder(at.l_age, added.l_age);
 }
 
-bool LevelOrder::mayStop(const TermReach& block, const igdDict& added) const
+bool LevelOrder::mayStop(const TermReach& branch, const igdDict& added) const
 {
-    if (isOlder(block.oldestUpper, added.u_age))
+    if (isOlder(branch.oldestUpper, added.u_age))
         return true;
-    if (isClearlyYounger(block.oldestUpper, added.u_age))
+    if (isClearlyYounger(branch.oldestUpper, added.u_age))
         return false;
-    return block.lowestRank < added.hier || isOlder(block.oldestLower, added.l_age);
+    return branch.lowestRank < added.hier || isOlder(branch.oldestLower, added.l_age);
 }
 
 bool AllTermsOrder::stops(const igdDict& at, const igdDict& added) const
@@ -46,8 +46,8 @@ bool AllTermsOrder::stops(const igdDict& at, const igdDict& added) const
         && at.name.view() > added.name.view();
 }
 
-bool AllTermsOrder::mayStop(const TermReach& block, const igdDict& added) const
+bool AllTermsOrder::mayStop(const TermReach& branch, const igdDict& added) const
 {
-    return block.oldestUpper >= added.u_age && block.highestRank >= added.hier
-        && block.oldestLower >= added.l_age && block.greatestName > added.name.view();
+    return branch.oldestUpper >= added.u_age && branch.highestRank >= added.hier
+        && branch.oldestLower >= added.l_age && branch.greatestName > added.name.view();
 }

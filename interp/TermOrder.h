@@ -29,7 +29,7 @@ struct LevelOrder {
     using Reach = TermReach;
 
     bool stops(const igdDict& at, const igdDict& added) const;
-    bool mayStop(const TermReach& block, const igdDict& added) const;
+    bool mayStop(const TermReach& branch, const igdDict& added) const;
 };
 
 /// All terms of a scheme: before a term that is not younger at either end, not of a wider rank, and
@@ -40,5 +40,5 @@ struct AllTermsOrder {
     using Reach = TermReach;
 
     bool stops(const igdDict& at, const igdDict& added) const;
-    bool mayStop(const TermReach& block, const igdDict& added) const;
+    bool mayStop(const TermReach& branch, const igdDict& added) const;
 };
