@@ -29,17 +29,17 @@ std::unique_ptr<Fssabnd> readOccurrence(long samp_id, const Cursor& row)
 {
     const long spec_id = row.integer(4);
     const char status = row.letter(5), ident_type = row.letter(6);
-    const std::string abund = row.text(7);
+    const FixedText<2> abund = row.view(7);
     const char caved = row.letter(8);
     const long marker = row.letter(9) == 'Y';
     const long medium = row.integer(10);
     auto o = std::make_unique<Fssabnd>(
-        samp_id, spec_id, status, ident_type, abund.c_str(), medium, caved, marker, 'C', 'A');
+        samp_id, spec_id, status, ident_type, abund, medium, caved, marker, 'C', 'A');
     const long coarse = row.integer(11);
     o->SetCounts(coarse, row.integer(12));
-    o->preserv = row.text(14);
-    o->colour = row.text(15);
-    o->comments = row.text(16);
+    o->preserv = row.view(14);
+    o->colour = row.view(15);
+    o->comments = row.view(16);
     return o;
 }
 
@@ -63,7 +63,10 @@ private:
         long samp_id = 0;
         long analy_no = 0;
         std::string abr;
-        bool operator==(const Owner&) const = default;
+        bool is(long sample, std::string_view user, long number) const
+        {
+            return samp_id == sample && analy_no == number && abr == user;
+        }
     };
 
     void find();
@@ -84,11 +87,12 @@ private:
 
 void OccurrenceLoader::take(const Cursor& row)
 {
-    Owner owner{row.integer(1), 0, row.text(2)};
-    owner.analy_no = row.integer(3);
-    if (!sample_ || owner != owner_) {
-        owner_ = std::move(owner);
-        key_ = analystKey(owner_.abr, owner_.analy_no);
+    const long samp_id = row.integer(1);
+    const std::string_view abr = row.view(2); // until the next text is read
+    const long analy_no = row.integer(3);
+    if (!sample_ || !owner_.is(samp_id, abr, analy_no)) {
+        owner_ = {samp_id, analy_no, std::string(abr)};
+        key_ = analystKey(abr, analy_no);
         find();
     }
     if (!sample_)
