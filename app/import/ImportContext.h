@@ -6,6 +6,7 @@
 #include "app/import/Dictionary.h"
 #include "app/import/InputFile.h"
 #include "store/AbundanceWriter.h"
+#include "store/EventWriter.h"
 #include "store/WellWriter.h"
 
 #include <map>
@@ -49,6 +50,7 @@ public:
         , dictionary(mode)
         , abundances(mode)
         , analyses(mode)
+        , events(mode)
         , stored_(Writing::Check)
     {
     }
@@ -60,6 +62,8 @@ public:
     AbundanceWriter abundances;
     Numbered<AbundanceScheme> numberedSchemes;
     Analyses analyses;
+    EventDictionaryWriter events;
+    Numbered<EventEntry> numberedEvents;
 
     /// What a set of files says about its abundances.
     struct SetAbundances {

@@ -44,3 +44,8 @@ std::unique_ptr<RowLoader> makeAnalystsLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeDetailsLoader(ImportContext& context);
 /// Of occurrences and of counts.
 std::unique_ptr<RowLoader> makeOccurrencesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeEventDictionaryLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeEventsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeStandardLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeTvdLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeCoresLoader(ImportContext& context);

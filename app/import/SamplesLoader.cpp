@@ -3,6 +3,7 @@
 #include "app/import/ImportContext.h"
 #include "app/import/Loader.h"
 #include "app/import/RowPlaces.h"
+#include "app/import/WellCells.h"
 #include "db/Units.h"
 #include "store/SampleWriter.h"
 #include "well/SampleType.h"
@@ -29,10 +30,12 @@ public:
     bool check(CellReader& cells) override
     {
         record_ = SampleRecord();
-        code_.clear();
-        well_ = nullptr;
-        if (cells.key(samples::WellCode, &code_) == Cell::Good && !findWell(cells))
+        if (!readWell(cells, samples::WellCode, context_, &code_, &well_)) {
+            error_ = context_.error();
             return false;
+        }
+        if (well_)
+            record_.wellId = well_->id;
         readDepths(cells);
         readTexts(cells);
         readGrid(cells);
@@ -58,20 +61,6 @@ public:
     }
 
 private:
-    bool findWell(CellReader& cells)
-    {
-        if (!context_.findWell(code_, &well_)) {
-            error_ = context_.error();
-            return false;
-        }
-        if (well_)
-            record_.wellId = well_->id;
-        else
-            cells.refuse(samples::WellCode,
-                "no such well in the database or among the accepted rows of wells files");
-        return true;
-    }
-
     // What a depth without a unit of its own is in.
     char unitsOfRow(CellReader& cells, Cell rowState, char rowUnits) const
     {

@@ -2,6 +2,8 @@
 #include "app/import/Shapes.h"
 
 #include "app/import/AnalysisShapes.h"
+#include "app/import/DepthShapes.h"
+#include "app/import/EventShapes.h"
 #include "app/import/Loader.h"
 
 namespace {
@@ -12,7 +14,7 @@ constexpr auto LeftOut = BadCell::IsLeftOut;
 // Capacities are those of the columns that the texts go to.
 constexpr ColumnShape kWells[] = {
     {wells::Code, "well_code", CellKind::Key, Refuses, true, 25},
-    {wells::Name, "well_name", CellKind::Text, LeftOut, false, 25},
+    {wells::Name, "well_name section_name", CellKind::Text, LeftOut, false, 25},
     {wells::Operator, "operator", CellKind::Text, LeftOut, false, 50},
     {wells::Country, "country", CellKind::Text, LeftOut, false, 25},
     {wells::County, "county", CellKind::Text, LeftOut, false, 30},
@@ -129,9 +131,13 @@ static_assert(inOrder(kCategories) && inOrder(kTaxa) && inOrder(kSynonymy));
 static_assert(inOrder(kNameVariants) && inOrder(kSchemes) && inOrder(kLevels));
 static_assert(inOrder(analysts::kColumns) && inOrder(abundance_codes::kColumns));
 static_assert(inOrder(sample_details::kColumns) && inOrder(occurrences::kColumns));
+static_assert(inOrder(event_dictionary::kColumns) && inOrder(events::kColumns));
+static_assert(inOrder(composite_standard::kColumns));
+static_assert(inOrder(tvd_points::kColumns) && inOrder(cores::kColumns));
 
 constexpr FileShape kShapes[] = {
     {"wells", kWells, makeWellsLoader},
+    {"sections", kWells, makeWellsLoader, true},
     {"samples", kSamples, makeSamplesLoader},
     {"categories", kCategories, makeCategoriesLoader},
     {"taxa", kTaxa, makeTaxaLoader},
@@ -144,6 +150,11 @@ constexpr FileShape kShapes[] = {
     {"sample_details", sample_details::kColumns, makeDetailsLoader},
     {"occurrences", occurrences::kColumns, makeOccurrencesLoader},
     {"counts", occurrences::kCountColumns, makeOccurrencesLoader},
+    {"event_dictionary", event_dictionary::kColumns, makeEventDictionaryLoader},
+    {"events", events::kColumns, makeEventsLoader},
+    {"composite_standard", composite_standard::kColumns, makeStandardLoader},
+    {"tvd_points", tvd_points::kColumns, makeTvdLoader},
+    {"cores", cores::kColumns, makeCoresLoader},
 };
 
 bool isNameBreak(char c) { return c == '-' || c == '_' || c == '.' || c == ' '; }

@@ -80,4 +80,52 @@ INSTANTIATE_TEST_SUITE_P(Sets, RealAnalyses,
             {"analysts.csv 16/16/0/0/0/0", "sample_details.csv 1297/1296/0/0/0/1",
                 "occurrences.csv 9639/9637/0/0/0/2"}}));
 
+// What else stands in a well, and counts without analysts.
+struct OtherSet {
+    const char* name;
+    Lines folders;
+    Lines counts;
+    const char* sql; ///< asks for what the files say, as their own words count it
+    std::string expected;
+};
+void PrintTo(const OtherSet& s, std::ostream* out) { *out << s.name; }
+
+class OtherAnalyses : public testing::TestWithParam<OtherSet> {};
+
+TEST_P(OtherAnalyses, AreStoredOnce)
+{
+    TestDatabase db;
+    std::vector<std::filesystem::path> inputs;
+    for (const std::string& folder : GetParam().folders)
+        inputs.push_back(kData / folder);
+    if (!std::filesystem::is_directory(inputs.front()))
+        GTEST_SKIP() << "the real data sets are not beside the repository";
+    IssueLog log;
+    const ImportResult first = importFiles({inputs, false}, log);
+    ASSERT_EQ("", first.failure);
+    EXPECT_THAT(countsOf(first), testing::IsSupersetOf(GetParam().counts));
+    EXPECT_EQ(GetParam().expected, db.value(GetParam().sql));
+    EXPECT_EQ(0, importFiles({inputs, false}, log).stored());
+}
+INSTANTIATE_TEST_SUITE_P(Sets, OtherAnalyses,
+    testing::Values(
+        OtherSet{"sections", {"riley_sections"},
+            {"sections.csv 5/5/0/0/0/0", "event_dictionary.csv 58/58/0/0/0/0",
+                "events.csv 302/302/0/0/0/0", "composite_standard.csv 116/116/0/0/0/0"},
+            "SELECT group_concat(x, ' ') FROM (SELECT topcsu > basecsu AS x FROM CMPSTD UNION ALL"
+            " SELECT count(DISTINCT samp_id) FROM EVENTS)",
+            "1 83"},
+        OtherSet{"events", {"odp_biostrat"},
+            {"event_dictionary.csv 171/140/0/31/11/0", "events.csv 182/182/0/0/0/0",
+                "composite_standard.csv 169/169/0/0/0/0"},
+            "SELECT group_concat(x, ' ') FROM (SELECT topcsu > basecsu AS x FROM CMPSTD UNION ALL"
+            " SELECT count(*) FROM EVENTS WHERE ev_type = 'F')",
+            "0 90"},
+        OtherSet{"cores", {"npd_wells"}, {"cores.csv 906/895/0/0/0/11"},
+            "SELECT round(top_depth, 4) FROM CORES c JOIN WELL_IDENT i ON i.well_id = c.well_id"
+            " WHERE i.well_code = '240'",
+            "3226.247"}, // 10584.8 ft
+        OtherSet{"surveys", {"force_lithology"}, {"tvd_points.csv 992/956/0/0/0/36"},
+            "SELECT tvdepth FROM WELLTVD ORDER BY abs(ddepth - 245.44) LIMIT 1", "245.43"}));
+
 } // namespace
