@@ -6,11 +6,10 @@
 
 int EVtList::insertSorted(EVt* evt, char wellType, int reverse)
 {
-    const std::size_t place = order_.placeOf(*evt, {mode_ != 0, wellType == 'O', reverse != 0});
-    ListNode* before = order_.nodeAt(place);
-    insertAt(before, evt);
-    order_.added(place, before ? before->older : back());
-    return static_cast<int>(before ? place + 1 : place);
+    const auto place = order_.placeOf(*evt, {mode_ != 0, wellType == 'O', reverse != 0});
+    insertAt(place.node, evt);
+    order_.added(place, place.node ? place.node->older : back());
+    return static_cast<int>(place.node ? place.number + 1 : place.number);
 }
 
 void EVtList::sortBy(int mode, char wellType, int reverse)

@@ -7,11 +7,12 @@
 #include "well/Sample.h"
 
 #include <algorithm>
-#include <tuple>
+#include <utility>
 
 namespace {
 
 constexpr double kSameDepth = 0.0001; // metres
+constexpr std::size_t kLongestStretch = 256;
 
 const EVt& eventOf(const GList::ListNode* node) { return *static_cast<const EVt*>(node->item); }
 
@@ -49,55 +50,83 @@ bool EventOrder::isIn(Class c, char kind) const
     return rule_.basesFirst ? kind < placed : kind > placed;
 }
 
-std::size_t EventOrder::placeOf(const EVt& evt, Rule rule)
+EventOrder::Place EventOrder::placeOf(const EVt& evt, Rule rule)
 {
     if (!isCurrent(rule))
         refresh(rule);
     const Key key = keyOf(evt, rule);
     const Class c = classOf(evt.kind);
-    const auto goesBehind = [&key, c](const Place& place) {
-        const Key* sameKind = place.reach[c];
-        return *place.reach[All] <= key
-            && !(sameKind && (*sameKind > key || isNear(*sameKind, key)));
+    const auto goesBefore = [&key](const Key* any, const Key* sameKind) {
+        return *any > key || (sameKind && (*sameKind > key || isNear(*sameKind, key)));
     };
-    const auto place = std::partition_point(places_.begin(), places_.end(), goesBehind);
-    return static_cast<std::size_t>(place - places_.begin());
-}
-
-GList::ListNode* EventOrder::nodeAt(std::size_t place) const
-{
-    return place < places_.size() ? places_[place].node : nullptr;
-}
-
-void EventOrder::added(std::size_t place, GList::ListNode* node)
-{
-    const Place added = placeWith(place, node);
-    places_.insert(places_.begin() + static_cast<std::ptrdiff_t>(place), added);
-    const Key& key = keys_.back();
-    for (std::size_t c = All; c < Classes; ++c) {
-        const auto reachesLess = [&key, c](const Place& behind) {
-            return !behind.reach[c] || *behind.reach[c] < key;
-        };
-        if (added.reach[c] != &key)
+    Place place{0, nullptr, 0, 0};
+    for (; place.stretch < stretches_.size(); ++place.stretch) {
+        const Stretch& stretch = stretches_[place.stretch];
+        if (!goesBefore(stretch.reach[All], stretch.reach[c])) {
+            place.number += stretch.entries.size();
             continue;
-        for (std::size_t i = place + 1; i < places_.size() && reachesLess(places_[i]); ++i)
-            places_[i].reach[c] = &key;
+        }
+        const auto entry =
+            std::find_if(stretch.entries.begin(), stretch.entries.end(), [&](const Entry& listed) {
+                const bool sameKind = isIn(c, eventOf(listed.node).kind);
+                return goesBefore(listed.key, sameKind ? listed.key : nullptr);
+            });
+        place.offset = static_cast<std::size_t>(entry - stretch.entries.begin());
+        place.number += place.offset;
+        place.node = entry->node;
+        break;
     }
+    return place;
+}
+
+void EventOrder::added(const Place& place, GList::ListNode* node)
+{
+    if (place.node)
+        enter(place.stretch, place.offset, newEntry(node));
+    else
+        append(newEntry(node));
     noteState();
 }
 
-/// What to keep for `node`, which stands at that place: its key is the last of all.
-EventOrder::Place EventOrder::placeWith(std::size_t place, GList::ListNode* node)
+EventOrder::Entry EventOrder::newEntry(GList::ListNode* node)
 {
-    const EVt& evt = eventOf(node);
-    const Key& key = keys_.emplace_back(keyOf(evt, rule_));
-    Place added{node, {}};
+    return {node, &keys_.emplace_back(keyOf(eventOf(node), rule_))};
+}
+
+void EventOrder::append(Entry entry)
+{
+    if (stretches_.empty())
+        stretches_.emplace_back();
+    enter(stretches_.size() - 1, stretches_.back().entries.size(), entry);
+}
+
+void EventOrder::enter(std::size_t number, std::size_t offset, Entry entry)
+{
+    Stretch& stretch = stretches_[number];
+    stretch.entries.insert(stretch.entries.begin() + static_cast<std::ptrdiff_t>(offset), entry);
+    extend(stretch.reach, entry);
+    if (stretch.entries.size() > kLongestStretch)
+        split(number);
+}
+
+void EventOrder::extend(Reach& reach, Entry entry) const
+{
     for (std::size_t c = All; c < Classes; ++c) {
-        const Key* before = place == 0 ? nullptr : places_[place - 1].reach[c];
-        const bool further = isIn(static_cast<Class>(c), evt.kind) && (!before || *before < key);
-        added.reach[c] = further ? &key : before;
+        const bool counts = isIn(static_cast<Class>(c), eventOf(entry.node).kind);
+        if (counts && (!reach[c] || *reach[c] < *entry.key))
+            reach[c] = entry.key;
     }
-    return added;
+}
+
+void EventOrder::split(std::size_t number)
+{
+    const std::vector<Entry> entries = std::exchange(stretches_[number], {}).entries;
+    stretches_.insert(stretches_.begin() + static_cast<std::ptrdiff_t>(number), Stretch());
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        Stretch& half = stretches_[number + (i < entries.size() / 2 ? 0 : 1)];
+        half.entries.push_back(entries[i]);
+        extend(half.reach, entries[i]);
+    }
 }
 
 bool EventOrder::isCurrent(Rule rule) const
@@ -109,10 +138,10 @@ bool EventOrder::isCurrent(Rule rule) const
 void EventOrder::refresh(Rule rule)
 {
     rule_ = rule;
-    places_.clear();
+    stretches_.clear();
     keys_.clear();
     for (auto at = list_.begin(); at != list_.end(); ++at)
-        places_.push_back(placeWith(places_.size(), at.node()));
+        append(newEntry(at.node()));
     made_ = true;
     noteState();
 }

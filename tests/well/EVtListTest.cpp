@@ -66,12 +66,12 @@ TEST_F(EVtLists, EveryEventGoesWhereAWalkPutsIt)
             return examined;
         };
         list.sortBy(c.mode, c.wellType, c.reverse);
-        for (int i = 0; i < 150; ++i) {
+        for (int i = 0; i < 400; ++i) {
             const float depth = c.depths[random() % c.depths.size()];
             well.AddSample(new Sample(7, ++samp_id, depth, "CU", 0, 0, depth));
             auto* evt = new EVt(7, 0, static_cast<long>(1 + random() % 4),
                 c.kinds[random() % c.kinds.size()], samp_id, samples, dictionary);
-            if (i == 100)
+            if (i == 300)
                 plain[3]->sample->SetBase(70, 'M');
             EXPECT_EQ(insertPlain(evt, c.mode), list.insertSorted(evt, c.wellType, c.reverse)) << i;
         }
