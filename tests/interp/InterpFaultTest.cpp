@@ -1,7 +1,6 @@
 // tests/interp/InterpFaultTest.cpp
 #include "db/Session.h"
 #include "interp/IGDLookups.h"
-#include "interp/IGDSchemeList.h"
 #include "tests/interp/InterpTest.h"
 
 #include <gmock/gmock.h>
@@ -10,8 +9,6 @@ namespace {
 
 constexpr const char* kLost = "ORA-03113 connection lost";
 
-enum class Ends { No, Process };
-
 /// What is left when the n-th run of a statement fails.
 struct Outcome {
     const char* name;
@@ -19,7 +16,7 @@ struct Outcome {
     int n;
     std::string result; ///< of a fatal one: when a lost connection was restored
     std::string report; ///< in the first box; empty: there is none
-    Ends ends = Ends::No;
+    bool fatal = false;
     bool databaseText = true; ///< in a second box
 };
 
@@ -35,24 +32,14 @@ std::string termsOf(const igd_sch& scheme)
 std::string loadedTerms(InterpData&) { return termsOf(igd_sch(1L, 1)); }
 std::string headerAlone(InterpData&) { return termsOf(igd_sch(1L, 0)); }
 std::string namedScheme(InterpData&) { return termsOf(igd_sch("beta", 3, 0)); }
-
-std::string schemeNames(InterpData&)
-{
-    std::string text;
-    const IGDSchemeList schemes;
-    for (const igd_sch* scheme : schemes)
-        text += joined(scheme->sch_id, scheme->oldestAge);
-    return text;
-}
+std::string schemeCount(InterpData&) { return joined(IGDSchemeList().count()); }
 
 std::string removedScheme(InterpData& data)
 {
-    igd_sch scheme(3);
-    scheme.sch_id = 1;
-    const int result = scheme.removeFromDB();
+    const int result = igd_sch(1L, 0).removeFromDB();
     dbRollback();
-    return joined(result, data.db.value("SELECT count(*) FROM IGD_DICT"),
-        data.db.value("SELECT count(*) FROM IGD_SCH"));
+    return joined(result)
+        + data.db.value("SELECT (SELECT count(*) FROM IGD_DICT) || '|' || count(*) FROM IGD_SCH");
 }
 
 std::string loadedZones(InterpData& data)
@@ -64,13 +51,13 @@ std::string loadedZones(InterpData& data)
 std::string zoneTerm(InterpData&)
 {
     IGDZone zone(3, 1L, 2L, 'N', "Upper", 'N', "Lower");
-    zone.upp_zone = 11;
-    zone.low_zone = 12;
-    const std::string upper = zone.upperName(1);
-    const int blue = zone.getLowerColour().blue;
+    zone.upp_zone = 11, zone.low_zone = 12;
+    std::string text = joined(zone.upperName(1));
+    for (int i = 0; i < 2; ++i)
+        text += joined(int(zone.getLowerColour().blue));
     char name[81] = "before";
     zone.upperNameFromDictionary(name);
-    return joined(upper, blue, int(zone.getLowerColour().blue), name);
+    return text + name;
 }
 
 std::string questions(InterpData&)
@@ -83,22 +70,23 @@ std::string questions(InterpData&)
 }
 
 const Outcome kOutcomes[] = {
-    {"header", loadedTerms, 1, "-2||0|0|", "SELECT name, igd_type", Ends::Process},
-    {"keys of terms", loadedTerms, 2, "1|beta|0|0|", "SELECT igd_id FROM", Ends::Process},
+    {"header", loadedTerms, 1, "-2||0|0|", "SELECT name, igd_type", true},
+    {"keys of terms", loadedTerms, 2, "1|beta|0|0|", "SELECT igd_id FROM", true},
     {"one term", loadedTerms, 4, "1|beta|70|1|-2|12|14|10|13|", "SELECT sch_id, igd_type, hier"},
     {"age span", headerAlone, 2, "1|beta|0|0|", ""},
-    {"scheme by name", namedScheme, 1, "-2|beta|0|0|", "SELECT sch_id FROM", Ends::Process},
-    {"list of schemes", schemeNames, 1, "", "SELECT sch_id FROM"},
-    {"removal of terms", removedScheme, 1, "0|5|3|",
-        "Failed to remove dictionary terms in igd_sch::removeFromDB()", Ends::No, false},
-    {"removal of the scheme", removedScheme, 2, "0|0|3|",
-        "Failed to remove IGD scheme in igd_sch::removeFromDB()", Ends::No, false},
+    {"scheme by name", namedScheme, 1, "-2|beta|0|0|", "SELECT sch_id FROM", true},
+    {"list of schemes", schemeCount, 1, "0|", "SELECT sch_id FROM"},
+    {"removal of terms", removedScheme, 3, "0|5|3",
+        "Failed to remove dictionary terms in igd_sch::removeFromDB()", false, false},
+    {"removal of the scheme", removedScheme, 4, "0|0|3",
+        "Failed to remove IGD scheme in igd_sch::removeFromDB()", false, false},
     {"zones", loadedZones, 1, "0|Age|0|0|", "SELECT top_id, base_id"},
-    {"abbreviation", zoneTerm, 1, "Upper|1|1|Upper|", ""},
-    {"colour, which is not asked for again", zoneTerm, 2, "U|255|255|Upper|", ""},
-    {"name in the dictionary", zoneTerm, 3, "U|1|1||", ""},
+    {"abbreviation", zoneTerm, 1, "Upper|1|1|Upper", ""},
+    {"colour, which is not asked for again", zoneTerm, 2, "U|255|255|Upper", ""},
+    {"name in the dictionary", zoneTerm, 3, "U|1|1|", ""},
     {"question", questions, 1, "0|as it was|-1|", "SELECT name, hier"},
-    {"deletion", questions, 2, "11|Upper|7|", "DELETE FROM"},
+    {"deletion", questions, 2, "11|Upper|7|",
+        "DELETE FROM " + table("ZRILITH") + " WHERE well_id =7"},
 };
 
 void expectOutcome(const Outcome& outcome, const std::string& call, const std::string& text)
@@ -110,33 +98,18 @@ void expectOutcome(const Outcome& outcome, const std::string& call, const std::s
         EXPECT_EQ(outcome.result, outcome.run(data));
         EXPECT_TRUE(fault.fired());
     }
-    const auto boxes = data.boxes.texts();
-    const std::size_t reports = outcome.report.empty() ? 0 : outcome.databaseText ? 2 : 1;
-    ASSERT_EQ(reports + (text == kLost ? 1 : 0), boxes.size());
-    if (reports > 0) {
-        EXPECT_THAT(boxes[0], testing::HasSubstr(outcome.report));
-    }
     // A statement that has no handle has no text of its own.
-    if (reports > 1) {
-        EXPECT_THAT(
-            boxes[1], testing::HasSubstr(call == "SQLAllocHandle" ? "A database error" : text));
-    }
+    Statements expected{outcome.report, call == "SQLAllocHandle" ? "A database error" : text,
+        "attempt to reconnect"};
+    expected.resize(outcome.report.empty() ? 0 : outcome.fatal ? 3 : outcome.databaseText ? 2 : 1);
+    const Statements boxes = data.boxes.texts();
+    ASSERT_EQ(expected.size(), boxes.size());
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        EXPECT_THAT(boxes[i], testing::HasSubstr(expected[i]));
     EXPECT_EQ(1, dbExecute("SELECT samp_id FROM " + table("SAMPLES"))) << "a cursor was left";
 }
 
 TEST(InterpFaults, LeaveWhatWasReadAndAreReported)
-{
-    for (const Outcome& outcome : kOutcomes) {
-        if (outcome.ends == Ends::Process) { // restored, so it goes on
-            expectOutcome(outcome, "SQLExecDirect", kLost);
-            continue;
-        }
-        for (const char* call : {"SQLAllocHandle", "SQLSetStmtAttr", "SQLExecDirect"})
-            expectOutcome(outcome, call, "injected fault");
-    }
-}
-
-TEST(InterpFaults, EndTheProcessWhenTheyCost)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     for (const Outcome& outcome : kOutcomes) {
@@ -146,9 +119,13 @@ TEST(InterpFaults, EndTheProcessWhenTheyCost)
             const DriverFault fault(outcome.n, "SQLExecDirect");
             outcome.run(data);
         };
-        if (outcome.ends == Ends::Process) {
+        if (outcome.fatal) {
+            expectOutcome(outcome, "SQLExecDirect", kLost); // restored, so it goes on
             EXPECT_EXIT(run(), testing::ExitedWithCode(1), outcome.report) << outcome.name;
+            continue;
         }
+        for (const char* call : {"SQLAllocHandle", "SQLSetStmtAttr", "SQLExecDirect"})
+            expectOutcome(outcome, call, "injected fault");
     }
 }
 

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "interp/IGDList.h"
+#include "interp/IGDSchemeList.h"
 #include "interp/IGDZone.h"
-#include "interp/igd_sch.h"
 #include "tests/well/WellTest.h"
 
-/// A database with a chronostratigraphic scheme (1), an empty one (2), and well 7 with three
-/// samples and zones between them. Message boxes are kept.
+/// A database with a chronostratigraphic scheme (1), two empty ones, and well 7 with three samples
+/// and zones between them. Message boxes are kept.
 struct InterpData {
     InterpData()
     {
@@ -22,12 +22,10 @@ struct InterpData {
         db.run("INSERT INTO SAMPLES (samp_id, well_id, top_depth, base_depth, type) VALUES"
                " (1, 7, 100, 100, 'CO'), (2, 7, 150, 150, 'CU'), (3, 7, 200, 210, 'LOG')");
         db.run("INSERT INTO IGD (well_id, igd_type, interp_id, hier, top_id, base_id, sch_id,"
-               " upp_zone, low_zone, upp_inf, low_inf, sep, q_uzone, q_lzone, top_bnd, base_bnd,"
-               " modified, modifier) VALUES"
-               " (7, 3, 0, 7, 2, 3, 1, 12, -5, 'Lower', 'x', '/ ', 'Y', 'N', 1, 2, '1998-03-05',"
-               " 'AB'), (7, 3, 0, 7, 1, 2, 1, 11, 11, 'Upper', NULL, NULL, NULL, NULL, 3, 3, NULL,"
-               " NULL), (7, 3, 0, 8, 1, 9, 0, 0, 0, 'Lost', NULL, NULL, NULL, NULL, 3, 3, NULL,"
-               " NULL), (7, 4, 5, 1, 1, 2, 12, 0, 0, 'Bio', NULL, NULL, NULL, NULL, 3, 3, NULL,"
+               " upp_zone, low_zone, upp_inf, low_inf, sep, q_uzone, top_bnd, base_bnd, modified,"
+               " modifier) VALUES (7, 3, 0, 7, 2, 3, 1, 12, -5, 'Lower', 'x', '/ ', 'Y', 1, 2,"
+               " '1998-03-05', 'AB'), (7, 3, 0, 7, 1, 2, 1, 11, 11, 'Upper', NULL, NULL, NULL, 3,"
+               " 3, NULL, NULL), (7, 3, 0, 8, 1, 9, 0, 0, 0, 'Lost', NULL, NULL, NULL, 3, 3, NULL,"
                " NULL)");
         well.well_id = 7;
         well.well_name = "Seven";
@@ -40,17 +38,17 @@ struct InterpData {
 
 class InterpTest : public testing::Test, protected InterpData {};
 
-inline std::string textOf(const IGDBase& record)
-{
-    const auto& z = dynamic_cast<const IGDZone&>(record);
-    return joined(z.type(), z.top_id, z.base_id, z.getTop(0), z.getBase(0), z.topSampleType.view(),
-        z.baseSampleType.view(), z.hier(), z.sch_id, z.upp_zone, z.low_zone, z.top_bnd, z.base_bnd,
-        z.label(), z.modified.isoText(), z.modifier);
-}
-
-inline IGDZone* zoneOf(int type, float top, float base, int rank = 0, const char* name = "")
-{
-    auto* zone = new IGDZone(type, top, base, 'N', name, 'N', "");
-    zone->setHier(rank);
-    return zone;
-}
+/// A list of no well.
+struct MadeList : IGDList {
+    explicit MadeList(int type, char unit = 'M')
+        : IGDList(type, 0, 9, nullptr, unit, 0, 0, nullptr)
+    {
+    }
+    IGDZone& add(float top, float base, int rank = 0)
+    {
+        auto* zone = new IGDZone(igd_type(), top, base, 'N', "", 'N', "");
+        zone->setHier(rank);
+        insert(zone);
+        return *zone;
+    }
+};
