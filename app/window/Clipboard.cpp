@@ -1,7 +1,7 @@
 // app/window/Clipboard.cpp
 #include "app/window/Clipboard.h"
 
-#include "app/window/WellHeaderPanel.h"
+#include "app/window/FieldPanel.h"
 
 #include <QAbstractItemView>
 #include <QLabel>
@@ -68,8 +68,8 @@ QString copyableText(const QWidget* focus)
 {
     if (const auto* view = qobject_cast<const QAbstractItemView*>(focus))
         return selectedCells(*view);
-    if (const auto* header = qobject_cast<const WellHeaderPanel*>(focus))
-        return header->text();
+    if (const auto* panel = qobject_cast<const FieldPanel*>(focus))
+        return panel->text();
     if (const auto* field = qobject_cast<const QLineEdit*>(focus))
         return field->selectedText();
     if (const auto* label = qobject_cast<const QLabel*>(focus))

@@ -16,5 +16,5 @@ QString tabSeparated(const QList<QStringList>& rows);
 QString selectedCells(const QAbstractItemView& view);
 
 /// What copying takes from the widget that has the keyboard: the selected cells of a table, the
-/// header of a well, the selected text of a field or label. Empty: nothing to copy.
+/// fields of a panel, the selected text of a field or label. Empty: nothing to copy.
 QString copyableText(const QWidget* focus);

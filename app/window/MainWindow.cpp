@@ -3,52 +3,25 @@
 
 #include "app/shell/OpenDatabase.h"
 #include "app/window/Clipboard.h"
+#include "app/window/Page.h"
 #include "app/window/ProgramArguments.h"
-#include "app/window/SamplePane.h"
-#include "app/window/StartPage.h"
-#include "app/window/WellHeaderPanel.h"
-#include "app/window/WellListPane.h"
-#include "app/window/WellNames.h"
+#include "app/window/TaxaPage.h"
+#include "app/window/WellsPage.h"
 #include "db/ErrorReporter.h"
 #include "platform/zapp/qt/QtWindow.h"
 #include "platform/zapp/zApp.h"
-#include "well/Well.h"
 
 #include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
 #include <QFileInfo>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QSplitter>
-#include <QStackedWidget>
-#include <QTableView>
-#include <QVBoxLayout>
+#include <QTabBar>
+#include <QTabWidget>
 
 namespace {
 
 constexpr QSize kFirstSize(1100, 700);
-constexpr int kListWidth = 250;
-
-QWidget* below(QWidget* upper, QWidget* lower)
-{
-    auto* both = new QWidget;
-    auto* layout = new QVBoxLayout(both);
-    layout->addWidget(upper);
-    layout->addWidget(lower, 1);
-    return both;
-}
-
-QSplitter* beside(QWidget* left, QWidget* right)
-{
-    auto* both = new QSplitter(Qt::Horizontal);
-    both->addWidget(left);
-    both->addWidget(right);
-    both->setStretchFactor(1, 1);
-    both->setChildrenCollapsible(false);
-    both->setSizes({kListWidth, kFirstSize.width() - kListWidth});
-    return both;
-}
 
 QString databaseName(const ConnectionSettings& settings)
 {
@@ -70,14 +43,12 @@ QString databaseOption(const ConnectionSettings& settings)
 MainWindow::MainWindow(ConnectionSettings settings, WindowServices services)
     : settings_(std::move(settings))
     , services_(std::move(services))
-    , pages_(new QStackedWidget)
-    , start_(new StartPage)
-    , wells_(new WellListPane)
-    , header_(new WellHeaderPanel)
-    , samples_(new SamplePane)
+    , tabs_(new QTabWidget)
+    , wells_(new WellsPage)
+    , taxa_(new TaxaPage)
     , unitsActions_(new QActionGroup(this))
 {
-    makePanes();
+    makePages();
     makeFileMenu();
     makeEditMenu();
     makeViewMenu();
@@ -88,18 +59,18 @@ MainWindow::MainWindow(ConnectionSettings settings, WindowServices services)
     resize(kFirstSize);
 }
 
-// The panes go with the base class, after the well that they point into.
-MainWindow::~MainWindow() { samples_->show(nullptr, 'M'); }
-
-void MainWindow::makePanes()
+// A page more of the window is a line here.
+void MainWindow::makePages()
 {
-    panes_ = beside(wells_, below(header_, samples_));
-    pages_->addWidget(start_);
-    pages_->addWidget(panes_);
-    setCentralWidget(pages_);
-    connect(start_, &StartPage::openAsked, this, &MainWindow::chooseFile);
-    connect(wells_, &WellListPane::wellChosen, this, &MainWindow::showWell);
-    connect(samples_, &SamplePane::unitsChosen, this, &MainWindow::setUnits);
+    tabs_->setDocumentMode(true);
+    tabs_->setObjectName(QStringLiteral("pages"));
+    tabs_->addTab(wells_, tr("Wells"));
+    tabs_->addTab(taxa_, tr("Taxa"));
+    tabs_->tabBar()->hide(); // until there is a database
+    tabs_->tabBar()->setAccessibleName(tr("Pages"));
+    setCentralWidget(tabs_);
+    connect(wells_, &WellsPage::openAsked, this, &MainWindow::chooseFile);
+    connect(wells_, &WellsPage::unitsChosen, this, &MainWindow::setUnits);
 }
 
 void MainWindow::makeFileMenu()
@@ -117,7 +88,7 @@ void MainWindow::makeEditMenu()
     QMenu* menu = menuBar()->addMenu(tr("&Edit"));
     QAction* copy = menu->addAction(tr("&Copy"), this, &MainWindow::copySelection);
     copy->setShortcut(QKeySequence::Copy);
-    QAction* find = menu->addAction(tr("&Find well"), wells_, &WellListPane::startSearch);
+    QAction* find = menu->addAction(tr("&Find"), this, [this] { page().startSearch(); });
     find->setShortcut(QKeySequence::Find);
     databaseActions_ << copy << find;
 }
@@ -125,6 +96,13 @@ void MainWindow::makeEditMenu()
 void MainWindow::makeViewMenu()
 {
     QMenu* menu = menuBar()->addMenu(tr("&View"));
+    for (int number = 0; number < tabs_->count(); ++number) {
+        QAction* open =
+            menu->addAction(tabs_->tabText(number), this, [this, number] { openPage(number); });
+        open->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + number)));
+        databaseActions_ << open;
+    }
+    menu->addSeparator();
     const auto addUnits = [&](const QString& text, DepthUnits units) {
         QAction* action = menu->addAction(text, this, [this, units] { setUnits(units); });
         action->setCheckable(true);
@@ -157,9 +135,10 @@ void MainWindow::showDatabase()
     setWindowTitle(databaseName(settings_) + QStringLiteral(" \u2013 ") + tr("Zonaris"));
     for (QAction* action : databaseActions_)
         action->setEnabled(true);
-    pages_->setCurrentWidget(panes_);
+    tabs_->tabBar()->show();
+    wells_->setDatabase(databaseName(settings_), databaseOption(settings_));
     reload();
-    wells_->list().setFocus();
+    openPage(0);
 }
 
 void MainWindow::openFile(const QString& file)
@@ -186,8 +165,7 @@ void MainWindow::setUnits(DepthUnits units)
     units_ = units;
     for (QAction* action : unitsActions_->actions())
         action->setChecked(action->data().value<DepthUnits>() == units);
-    samples_->setUnits(units, shownUnits());
-    header_->showWell(well_.get(), shownUnits());
+    wells_->setUnits(units);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event)
@@ -214,7 +192,7 @@ void MainWindow::copySelection()
 
 void MainWindow::cyclePanes(int step)
 {
-    const QList<QWidget*> panes{&wells_->list(), header_, &samples_->table()};
+    const QList<QWidget*> panes = page().panes();
     const QWidget* focus = focusWidget();
     const auto holds = [&](const QWidget* pane) {
         return pane == focus || pane->isAncestorOf(focus);
@@ -226,29 +204,16 @@ void MainWindow::cyclePanes(int step)
     panes[(from + step + count) % count]->setFocus(Qt::ShortcutFocusReason);
 }
 
-void MainWindow::showWell(long well_id)
+void MainWindow::openPage(int number)
 {
-    // The panes keep the well before until this one is there: a message box that a failure shows
-    // lets them paint.
-    std::unique_ptr<Well> well;
-    if (well_id != 0) {
-        well = std::make_unique<Well>(well_id);
-        well->LoadSamples(0);
-    }
-    well_.swap(well);
-    samples_->show(well_.get(), shownUnits());
-    header_->showWell(well_.get(), shownUnits());
+    tabs_->setCurrentIndex(number);
+    page().firstPlace().setFocus(Qt::ShortcutFocusReason);
 }
 
 void MainWindow::reload()
 {
-    auto wells = readWellNames();
-    if (!wells)
-        return;
-    if (wells->empty())
-        start_->showNoWells(databaseName(settings_), databaseOption(settings_));
-    pages_->setCurrentWidget(wells->empty() ? start_ : panes_);
-    wells_->setWells(std::move(*wells));
+    for (Page* each : pages())
+        each->read();
 }
 
 void MainWindow::about()
@@ -258,4 +223,6 @@ void MainWindow::about()
     zMessage(windowOf(this), text.c_str(), "About Zonaris", MB_OK);
 }
 
-char MainWindow::shownUnits() const { return unitsLetter(units_, well_ ? well_->units : 'M'); }
+Page& MainWindow::page() const { return *static_cast<Page*>(tabs_->currentWidget()); }
+
+QList<Page*> MainWindow::pages() const { return {wells_, taxa_}; }

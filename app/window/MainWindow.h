@@ -7,17 +7,13 @@
 
 #include <QMainWindow>
 
-#include <memory>
-
+class Page;
 class QActionGroup;
-class QStackedWidget;
-class SamplePane;
-class StartPage;
-class Well;
-class WellHeaderPanel;
-class WellListPane;
+class QTabWidget;
+class TaxaPage;
+class WellsPage;
 
-/// The main window: the wells of the database, and header and samples of the chosen one. It reads
+/// The main window: a page for the wells of the database, a page for its names of taxa. It reads
 /// only. Closing it ends the event loop of the application object.
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -25,7 +21,6 @@ class MainWindow : public QMainWindow {
 public:
     /// Without a database. `settings` says how one that the user opens is spoken to and by whom.
     explicit MainWindow(ConnectionSettings settings, WindowServices services);
-    ~MainWindow() override;
 
     /// Shows the database that the settings name and that the session is connected with.
     void showDatabase();
@@ -39,7 +34,7 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void makePanes();
+    void makePages();
     void makeFileMenu();
     void makeEditMenu();
     void makeViewMenu();
@@ -47,23 +42,20 @@ private:
     void chooseFile();
     void copySelection();
     void cyclePanes(int step);
-    void showWell(long well_id);
+    void openPage(int number);
     void reload();
     void about();
-    char shownUnits() const;
+    Page& page() const;
+    QList<Page*> pages() const;
 
     ConnectionSettings settings_;
     WindowServices services_;
     bool connected_ = false;
     DepthUnits units_ = DepthUnits::OfWell;
-    std::unique_ptr<Well> well_; // chosen; the panes point into it
 
-    QStackedWidget* pages_;
-    StartPage* start_;
-    QWidget* panes_ = nullptr; // the next three
-    WellListPane* wells_;
-    WellHeaderPanel* header_;
-    SamplePane* samples_;
+    QTabWidget* tabs_; // the pages
+    WellsPage* wells_;
+    TaxaPage* taxa_;
     QActionGroup* unitsActions_;
     QList<QAction*> databaseActions_; // of use with a database only
 };

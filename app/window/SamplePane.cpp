@@ -37,7 +37,7 @@ QTableView* makeTable(QWidget* parent, QAbstractItemModel* samples)
 } // namespace
 
 SamplePane::SamplePane(QWidget* parent)
-    : QWidget(parent)
+    : WellView(parent)
     , count_(new QLabel(this))
     , units_(makeUnits(this))
     , table_(makeTable(this, &samples_))
@@ -56,10 +56,10 @@ SamplePane::SamplePane(QWidget* parent)
     layout->addWidget(table_);
     connect(units_, &QComboBox::activated, this,
         [this](int row) { emit unitsChosen(units_->itemData(row).value<DepthUnits>()); });
-    show(nullptr, 'M');
+    showWell(nullptr, 'M');
 }
 
-void SamplePane::show(const Well* well, char units)
+void SamplePane::showWell(const Well* well, char units)
 {
     samples_.show(well, units);
     fitColumns(*table_);
@@ -73,3 +73,5 @@ void SamplePane::setUnits(DepthUnits shown, char units)
     samples_.setUnits(units);
     fitColumns(*table_);
 }
+
+QWidget& SamplePane::place() const { return *table_; }

@@ -142,7 +142,7 @@ TEST_F(MainWindowTest, CopiesWhatHasTheKeyboard)
     desk.act("Copy");
     EXPECT_THAT(QApplication::clipboard()->text().toStdString(),
         testing::StartsWith("Name\tOne\nCode\tA1\n"));
-    desk.act("Find well");
+    desk.act("Find");
     desk.find<QLineEdit>("wellSearch").setText("tw");
     desk.find<QLineEdit>("wellSearch").selectAll();
     desk.act("Copy");

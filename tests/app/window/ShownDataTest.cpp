@@ -171,7 +171,7 @@ protected:
     }
     std::string field(const char* caption) const
     {
-        for (const QLabel* label : desk.window->findChildren<QLabel*>()) {
+        for (const QLabel* label : desk.find<QWidget>("wellHeader").findChildren<QLabel*>()) {
             if (label->accessibleName() == QLatin1String(caption))
                 return label->text().toStdString();
         }
