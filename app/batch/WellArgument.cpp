@@ -3,6 +3,7 @@
 
 #include "app/batch/Failure.h"
 #include "app/shell/FindWell.h"
+#include "app/shell/WellLoading.h"
 #include "taxonomy/Disciplines.h"
 #include "util/TextUtil.h"
 #include "well/Sample.h"
@@ -37,19 +38,15 @@ void writeReports(const LoadStep& step)
 
 char disciplineOf(const std::string& text)
 {
-    const Discs disciplines;
     std::string known;
-    for (const Discs::Entry& entry : disciplines.entries) {
-        if (entry.letter == 0)
-            continue;
-        const std::string letter(1, entry.letter);
-        if (compareIgnoringCase(text, letter) == 0
-            || compareIgnoringCase(text, std::string(entry.name.view())) == 0)
-            return entry.letter;
-        known += (known.empty() ? "" : ", ") + letter + " (" + std::string(entry.name.view()) + ')';
+    for (const char letter : std::string_view(discLetters)) {
+        const std::string name = disciplineName(letter);
+        if (compareIgnoringCase(text, std::string(1, letter)) == 0
+            || compareIgnoringCase(text, name) == 0)
+            return letter;
+        known += (known.empty() ? "" : ", ") + std::string(1, letter) + " (" + name + ')';
     }
-    failed("There is no discipline " + text + '.'
-        + (known.empty() ? " The database has none." : " There are: " + known + '.'));
+    failed("There is no discipline " + text + ". There are: " + known + '.');
     return 0;
 }
 

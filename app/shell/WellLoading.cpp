@@ -84,8 +84,7 @@ void WellLoading::addDisciplines()
         if (letter.empty())
             continue;
         const char disc = letter.front();
-        const char* known = discName(disc);
-        const std::string name = known ? known : letter;
+        const std::string name = disciplineName(disc);
         // Without its details an occurrence of a sample in the list ends the process.
         steps_.push_back({name + " details", [&well, disc] {
                               well.LoadSampleDetails(disc, kAnyAnalyst);
@@ -126,6 +125,15 @@ LoadStep WellLoading::next()
     result.seconds = std::chrono::duration<double>(Clock::now() - start).count();
     result.reports = reports.take();
     return result;
+}
+
+std::string disciplineName(char disc)
+{
+    const Discs disciplines;
+    for (const Discs::Entry& entry : disciplines.entries)
+        if (entry.letter == disc && !entry.name.empty())
+            return std::string(entry.name.view());
+    return std::string("discipline ") + disc;
 }
 
 std::vector<LoadStep> loadAll(LoadedWell& loaded)

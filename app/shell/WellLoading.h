@@ -56,5 +56,8 @@ private:
     std::size_t next_ = 0;
 };
 
+/// What the database calls a discipline; "discipline M" when it has no name for the letter.
+std::string disciplineName(char disc);
+
 /// All steps. What they told, in order.
 std::vector<LoadStep> loadAll(LoadedWell& loaded);
