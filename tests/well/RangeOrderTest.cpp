@@ -122,13 +122,11 @@ TEST(RangeOrder, GoesByMode)
         Ids order;
     } kCases[] = {
         {"tops", 'W', 1, 0, 1000, 'M', 3, {6, 5, 8, 7}},
-        {"bases", 'W', 2, 0, 1000, 'M', 3, {6, 5, 8, 7}},
         {"tops in place", 'W', 3, 0, 1000, 'M', 1, {5, 7, 6, 8}},
         {"bases in place", 'W', 4, 0, 150, 'M', 0, {5, 7, 6, 8}},
         {"as listed", 'W', 5, 0, 1000, 'M', 4, {5, 7, 6, 8}},
         {"window in feet", 'W', 1, 0, 984, 'F', 1, {6, 5, 7, 8}},
         {"outcrop, window mirrored", 'O', 2, -1000, 0, 'M', 3, {6, 5, 8, 7}},
-        {"outcrop, window of a well", 'O', 1, 0, 1000, 'M', 0, {5, 7, 6, 8}},
     };
     for (const auto& c : kCases) {
         FoundWell well({{3, 300, 5}, {1, 100, 6}, {2, 400, 6}, {4, 300, 8}}, c.wellType);

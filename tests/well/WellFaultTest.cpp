@@ -138,16 +138,6 @@ const std::vector<Operation> kOperations = {
         },
         {{1, "0|", "Error selecting sample list", true}},
         {{1, "1|", ""}, {2, kOne + "1|", ""}, {3, kTwo + kOne + "1|", ""}}},
-    {"details and occurrences",
-        [] {
-            Seven well;
-            well.LoadSamples(0);
-            well.LoadSampleDetails('N', "");
-            well.loadFss('N', "", 0);
-            return well.loaded(1);
-        },
-        {{3, "1/XY:; 1|0|", "Error selecting fss list", true}},
-        {{6, "1/XY:; 1|1|", ""}, {7, "1/XY*: 52=7; 1|1|", ""}}},
     {"details",
         [] {
             Seven well;
@@ -157,13 +147,16 @@ const std::vector<Operation> kOperations = {
         },
         {{2, "0|0|", "Error selecting sample details list", true}},
         {{4, "0|0|", ""}, {5, "1/XY:; 1|0|", ""}}},
-    {"occurrences alone",
+    {"occurrences",
         [] {
             Seven well;
+            well.LoadSamples(0);
+            well.LoadSampleDetails('N', "");
             well.loadFss('N', "", 0);
             return well.loaded(1);
         },
-        {{1, "0|0|", "Error selecting fss list", true}}, {{1, "0|1|", ""}}},
+        {{3, "1/XY:; 1|0|", "Error selecting fss list", true}},
+        {{6, "1/XY:; 1|1|", ""}, {7, "1/XY*: 52=7; 1|1|", ""}}},
     {"details of a sample",
         [] {
             Sample s(7, 1);
