@@ -6,9 +6,9 @@
 
 namespace {
 
-struct Interval {
+struct Zone {
     float top, base;
-    int topQuality = 3, baseQuality = 3;
+    int topQuality = 3;
 };
 
 TEST(IGDListOrder, IsByTopThenByThicknessAsTheTypeSays)
@@ -59,37 +59,27 @@ TEST(IGDListOrder, IsWhereAWalkWouldPutARecordWhateverHappenedToTheList)
 
 TEST(IGDListConflict, IsAnOverlapOrTwoQualitiesOfOneBoundary)
 {
-    const struct {
-        const char* name;
-        int type;
-        Interval member, asked;
-        int kind;
-    } kCases[] = {
-        {"the same but for a thousandth", 3, {100.001f, 200}, {100.004f, 200}, -1},
-        {"a hundredth as it was meant", 3, {1.15f, 2}, {1, 1.15f}, 0},
-        {"its top inside", 3, {150, 250}, {100, 200}, -1},
-        {"its base inside", 3, {50, 150}, {100, 200}, -1},
-        {"around", 3, {50, 250}, {100, 200}, -1},
-        {"a point within", 12, {120, 120}, {100, 200}, -1},
-        {"within, asked for a point", 12, {100, 200}, {120, 120}, 0},
-        {"one point", 12, {120, 120}, {120.001f, 120.001f}, -1},
-        {"sharing a boundary", 3, {100, 150}, {150, 200}, 0},
-        {"differing above", 3, {100, 150, 3, 3}, {150, 200, 6, 3}, -2},
-        {"differing below", 44, {150, 200, 6, 3}, {100, 150, 3, 3}, -2},
-        {"differing, loaded biozones", 4, {100, 150, 3, 3}, {150, 200, 6, 3}, 0},
-    };
-    for (const auto& c : kCases) {
-        MadeList list(c.type), others(c.type);
-        const auto add = [](MadeList& to, const Interval& i) {
-            IGDZone& zone = to.add(i.top, i.base);
-            zone.top_bnd = i.topQuality, zone.base_bnd = i.baseQuality;
-            return &zone;
-        };
-        const IGDBase *member = add(list, c.member), *asked = add(others, c.asked);
+    for (const auto& [rule, type, member, asked, expected] :
+        {std::tuple{
+             "the same but for a thousandth", 3, Zone{100.001f, 200}, Zone{100.004f, 200}, -1},
+            {"a hundredth as it was meant", 3, Zone{1.15f, 2}, Zone{1, 1.15f}, 0},
+            {"its top inside", 3, Zone{150, 250}, Zone{100, 200}, -1},
+            {"its base inside", 3, Zone{50, 150}, Zone{100, 200}, -1},
+            {"around", 3, Zone{50, 250}, Zone{100, 200}, -1},
+            {"a point within", 12, Zone{120, 120}, Zone{100, 200}, -1},
+            {"within, asked for a point", 12, Zone{100, 200}, Zone{120, 120}, 0},
+            {"one point", 12, Zone{120, 120}, Zone{120.001f, 120.001f}, -1},
+            {"sharing a boundary", 3, Zone{100, 150}, Zone{150, 200}, 0},
+            {"differing above", 3, Zone{100, 150}, Zone{150, 200, 6}, -2},
+            {"differing below", 44, Zone{150, 200, 6}, Zone{100, 150}, -2},
+            {"differing, loaded biozones", 4, Zone{100, 150}, Zone{150, 200, 6}, 0}}) {
+        MadeList list(type), others(type);
+        IGDZone *in = &list.add(member.top, member.base), *out = &others.add(asked.top, asked.base);
+        in->top_bnd = member.topQuality, out->top_bnd = asked.topQuality;
         int kind = 99;
-        EXPECT_EQ(c.kind ? member : nullptr, list.findConflict(asked, &kind, nullptr)) << c.name;
-        EXPECT_EQ(c.kind, kind) << c.name;
-        EXPECT_EQ(nullptr, list.findConflict(asked, &kind, member)) << c.name;
+        EXPECT_EQ(expected ? in : nullptr, list.findConflict(out, &kind, nullptr)) << rule;
+        EXPECT_EQ(expected, kind) << rule;
+        EXPECT_EQ(nullptr, list.findConflict(out, &kind, in)) << rule;
     }
 }
 

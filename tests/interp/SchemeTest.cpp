@@ -12,29 +12,21 @@ using Terms = std::vector<const igdDict*>;
 
 TEST(TermOrders, StopAtTheFirstMemberThat)
 {
-    struct Term : igdDict {
-        Term(float upper, int rank, float lower, const char* text)
-        {
-            u_age = upper, l_age = lower, hier = rank, name = text;
-        }
-    };
-    const struct {
-        const char* name;
-        Term at, added;
-        bool level, all;
-    } kCases[] = {
-        {"is older", {6, 1, 9, "A"}, {5, 1, 9, "B"}, true, false},
-        {"is older and named behind", {6, 1, 9, "C"}, {5, 1, 9, "B"}, true, true},
-        {"reaches further down", {5, 1, 9, "C"}, {5, 1, 8, "B"}, true, true},
-        {"is named behind, in bytes", {5, 1, 9, "b"}, {5, 1, 9, "Z"}, false, true},
-        {"has a lower rank number", {5, 1, 9, "C"}, {5, 2, 9, "B"}, true, false},
-        {"is hardly younger", {5, 1, 9, "C"}, {5.0009f, 1, 8, "B"}, true, false},
-        {"is younger", {5, 1, 9, "C"}, {5.0011f, 1, 8, "B"}, false, false},
-        {"ends younger", {6, 1, 7, "C"}, {5, 1, 8, "B"}, true, false},
-    };
-    for (const auto& c : kCases) {
-        EXPECT_EQ(c.level, LevelOrder().stops(c.at, c.added)) << c.name;
-        EXPECT_EQ(c.all, AllTermsOrder().stops(c.at, c.added)) << c.name;
+    igdDict at, added;
+    added.l_age = 8;
+    for (const auto& [rule, u_age, hier, l_age, name, later, level, all] :
+        {std::tuple{"is older", 6.f, 1, 9.f, "A", 5.f, true, false},
+            {"is older and named behind", 6.f, 1, 9.f, "C", 5.f, true, true},
+            {"reaches further down", 5.f, 1, 9.f, "A", 5.f, true, false},
+            {"is named behind, in bytes", 5.f, 1, 8.f, "b", 5.f, false, true},
+            {"has a lower rank number", 5.f, 0, 8.f, "C", 5.f, true, false},
+            {"is hardly younger", 5.f, 1, 9.f, "C", 5.0009f, true, false},
+            {"is younger", 5.f, 1, 9.f, "C", 5.0011f, false, false},
+            {"ends younger", 6.f, 1, 7.f, "C", 5.f, true, false}}) {
+        at.u_age = u_age, at.hier = hier, at.l_age = l_age, at.name = name;
+        added.u_age = later, added.hier = 1, added.name = "B";
+        EXPECT_EQ(level, LevelOrder().stops(at, added)) << rule;
+        EXPECT_EQ(all, AllTermsOrder().stops(at, added)) << rule;
     }
 }
 
@@ -104,27 +96,21 @@ TEST_F(InterpTest, TermsAreFoundByNameAndAge)
     EXPECT_EQ("as it was", name);
     EXPECT_EQ(14, scheme.termIdByAbr("x9", name, 1));
     EXPECT_EQ("Nameless", name);
-    const struct {
-        const char* rule;
-        float top, base;
-        int type;
-        Ids found; // one term, first, second
-    } kCases[] = {
-        {"the finest rank", 10, 20, 3, {11, 11, 0}},
-        {"both ends included, the first of two", 30, 30, 3, {11, 11, 0}},
-        {"a rank too wide gives both ends", 20, 40, 3, {10, 11, 12}},
-        {"wide enough for biozones", 20, 40, 41, {10, 10, 0}},
-        {"too wide for lithostratigraphy", 67, 68, 2, {13, 13, 13}},
-        {"no term holds both", 20, 69, 3, {0, 0, 0}},
-        {"older than its base", 10, 5, 3, {0, 0, 0}},
-    };
     const auto idOf = [](const igdDict* term) { return term ? term->igd_id : 0; };
-    for (const auto& c : kCases) {
-        igdDict *first = nullptr, *second = nullptr;
-        scheme.igd_type = c.type;
-        scheme.findTermsForAges(c.top, c.base, &first, &second);
-        const igdDict* one = scheme.findTermForAges(c.top, c.base);
-        EXPECT_EQ(c.found, (Ids{idOf(one), idOf(first), idOf(second)})) << c.rule;
+    for (const auto& [rule, top, base, type, one, first, second] :
+        {std::tuple{"the finest rank", 10.f, 20.f, 3, 11, 11, 0},
+            {"both ends included, the first of two", 30.f, 30.f, 3, 11, 11, 0},
+            {"a rank too wide gives both ends", 20.f, 40.f, 3, 10, 11, 12},
+            {"wide enough for biozones", 20.f, 40.f, 41, 10, 10, 0},
+            {"too wide for lithostratigraphy", 67.f, 68.f, 2, 13, 13, 13},
+            {"no term holds both", 20.f, 69.f, 3, 0, 0, 0},
+            {"older than its base", 10.f, 5.f, 3, 0, 0, 0}}) {
+        igdDict *upper = nullptr, *lower = nullptr;
+        scheme.igd_type = type;
+        scheme.findTermsForAges(top, base, &upper, &lower);
+        EXPECT_EQ((Ids{one, first, second}),
+            (Ids{idOf(scheme.findTermForAges(top, base)), idOf(upper), idOf(lower)}))
+            << rule;
     }
 }
 

@@ -120,13 +120,12 @@ TEST_F(InterpTest, TermsBelongToTheirScheme)
 {
     const IGDSchemeList schemes;
     IGDZone zone(3, 1L, 2L, 'N', "", 'N', "");
-    zone.upp_zone = 12, zone.low_zone = 99;
-    for (const auto& [sch_id, upper, list, belongs] :
-        {std::tuple{1L, 1, &schemes, true}, {1L, 0, &schemes, false}, {99L, 1, &schemes, false},
-            {1L, 0, static_cast<const IGDSchemeList*>(nullptr), true}}) {
-        zone.sch_id = sch_id;
-        EXPECT_EQ(belongs, IGDList::termInScheme(zone, upper, list));
-    }
+    zone.upp_zone = 12, zone.low_zone = 99, zone.sch_id = 1;
+    EXPECT_TRUE(IGDList::termInScheme(zone, 1, &schemes));
+    EXPECT_FALSE(IGDList::termInScheme(zone, 0, &schemes));
+    EXPECT_TRUE(IGDList::termInScheme(zone, 0, nullptr));
+    zone.sch_id = 99;
+    EXPECT_FALSE(IGDList::termInScheme(zone, 1, &schemes));
 }
 
 TEST_F(InterpTest, CoverageJoinsWhatOneSchemeCovers)
@@ -135,31 +134,28 @@ TEST_F(InterpTest, CoverageJoinsWhatOneSchemeCovers)
         float top, base;
         long sch_id, base_id;
     };
-    const struct {
-        const char* name;
-        std::vector<Zone> first, second;
-        std::string covered; ///< top, base, scheme, base's sample
-    } kCases[] = {
-        {"several in a row", {{1, 2, 1, 5}, {2, 3, 1, 6}, {3, 4, 1, 7}, {4, 5, 2, 8}}, {},
-            "1|4|beta|7|4|5|Alpha|8|"},
-        {"what is covered already", {{1, 9, 1, 5}}, {{2, 9, 2, 6}}, "1|9|beta|5|"},
-        {"what reaches further", {{1, 9, 1, 5}}, {{2, 10, 2, 6}}, "1|9|beta|5|2|10|Alpha|6|"},
-        {"the deeper base stays", {{2, 9, 1, 5}, {1, 5, 1, 6}}, {}, "1|9|beta|5|"},
-    };
-    for (const auto& c : kCases) {
-        MadeList first(4, 'F'), second(4);
-        for (const auto& [list, zones] : {std::pair{&first, &c.first}, {&second, &c.second}})
-            for (const Zone& z : *zones) {
+    using Zones = std::vector<Zone>;
+    for (const auto& [rule, first, second, expected] :
+        {std::tuple{"several in a row",
+             Zones{{1, 2, 1, 5}, {2, 3, 1, 6}, {3, 4, 1, 7}, {4, 5, 2, 8}}, Zones{},
+             "1|4|beta|7|4|5|Alpha|8|"},
+            {"what is covered already", {{1, 9, 1, 5}}, {{2, 9, 2, 6}}, "1|9|beta|5|"},
+            {"what reaches further", {{1, 9, 1, 5}}, {{2, 10, 2, 6}}, "1|9|beta|5|2|10|Alpha|6|"},
+            {"the deeper base stays", {{2, 9, 1, 5}, {1, 5, 1, 6}}, {}, "1|9|beta|5|"}}) {
+        MadeList upper(4, 'F'), lower(4);
+        for (const auto& [list, zones] : {std::pair{&upper, first}, {&lower, second}}) {
+            for (const Zone& z : zones) {
                 IGDZone& zone = list->add(z.top, z.base);
                 zone.sch_id = z.sch_id, zone.base_id = z.base_id;
             }
-        const IGDList* lists[] = {nullptr, &first, &second};
+        }
+        const IGDList* lists[] = {nullptr, &upper, &lower};
         const IGDList coverage(lists, 3);
         std::string covered;
         for (const IGDBase* at : coverage)
             covered += joined(at->getTop(0), at->getBase(0), at->label(),
                 dynamic_cast<const IGDZone*>(at)->base_id);
-        EXPECT_EQ(c.covered, covered) << c.name;
+        EXPECT_EQ(expected, covered) << rule;
         EXPECT_EQ("4|0|F|", joined(coverage.igd_type(), coverage.changed(), coverage.unit()));
     }
 }
