@@ -84,7 +84,7 @@ bool takeNumber(std::string_view text, AbundanceReading* reading)
 
 bool takeCode(const std::string& text, AbundanceReading* reading)
 {
-    constexpr std::string_view kNoCode = "<>()[]=~";
+    constexpr std::string_view kNoCode = "<>()[]=~-";
     if (text.size() > kLongestAbundanceCode || isDigit(text[0])
         || text.find_first_of(kNoCode) != std::string::npos)
         return false;

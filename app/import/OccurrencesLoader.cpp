@@ -69,8 +69,9 @@ public:
         taxon_ = readTaxon(cells);
         const AnalystCell analyst = readAnalyst(cells, cell::Analyst, context_);
         const std::string category = taxon_ ? taxon_->taxon.category() : "";
-        const char discipline = readDisciplineOf(
-            cells, cell::Discipline, context_.dictionary.categories.find(category));
+        const char discipline = taxon_ ? readDisciplineOf(cells, cell::Discipline,
+                                    context_.dictionary.categories.find(category))
+                                       : '\0';
         const auto number = readAnalysisNumber(cells, cell::Number, analyst);
         readColumns(cells);
         if (cells.report().refused())

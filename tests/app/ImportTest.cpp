@@ -111,7 +111,7 @@ TEST_F(Importing, KnowsFilesByTheirNames)
 TEST_F(Importing, NeedsSomethingToImport)
 {
     EXPECT_THAT(import({folder.path()}).failure,
-        testing::StartsWith("Nothing to import. Known files: wells.csv, samples.csv, "));
+        testing::StartsWith("Nothing to import. Known files: wells.csv, sections.csv, "));
     const auto missing = folder.path() / "none";
     folder.write("wells.csv", "well_code\nA\n");
     EXPECT_EQ(missing.string() + " is not there.", import({folder.path(), missing}).failure);

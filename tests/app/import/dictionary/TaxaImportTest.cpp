@@ -3,7 +3,7 @@
 #include "app/import/ImportContext.h"
 #include "app/import/Loader.h"
 #include "taxonomy/Categories.h"
-#include "tests/app/import/dictionary/DictionaryRun.h"
+#include "tests/app/import/dictionary/FaultSweep.h"
 
 #include <ostream>
 
@@ -384,33 +384,12 @@ TEST(WholeSet, KeepsTheNumbersOfTaxa)
 
 TEST(WholeSet, EachDriverCallFailing)
 {
-    int fired = 0;
-    for (int n = 1;; ++n) {
-        TestDatabase db;
+    const auto prepare = [](TestDatabase& db) {
         db.run("INSERT INTO CATEGORY VALUES ('FORAM', 'old', NULL)");
         db.run("INSERT INTO GENUS (gen_id, cat_mnem, genus) VALUES (1, 'FORAM', 'Betina')");
         db.run("INSERT INTO SPECIES (spec_id, gen_id, species) VALUES (1, 1, 'nova')");
-        const Lines before = dictionariesOf(db);
-        const DriverFault fault(n);
-        IssueLog log;
-        const ImportResult result = importAll(kWholeSet, log);
-        const std::string where = fault.call() + ' ' + std::to_string(n);
-        if (result.failure.empty()) {
-            EXPECT_EQ(16u, dictionariesOf(db).size()) << where;
-            if (fault.fired()) {
-                EXPECT_THAT(fault.call(), testing::StartsWith("SQLFree")) << where;
-            }
-        } else {
-            EXPECT_EQ(before, dictionariesOf(db)) << where;
-            EXPECT_THAT(result.failure,
-                HasSubstr(fault.call() == "SQLFreeStmt" ? "is open" : "injected fault"))
-                << where;
-        }
-        if (!fault.fired())
-            break;
-        ++fired;
-    }
-    EXPECT_GT(fired, 150);
+    };
+    EXPECT_GT(sweepFaults(kWholeSet, prepare, dictionariesOf, 16), 150);
 }
 
 } // namespace
