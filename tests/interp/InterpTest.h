@@ -12,7 +12,7 @@ struct InterpData {
     InterpData()
     {
         db.run("INSERT INTO IGD_SCH VALUES (1, 'beta', 3, '1998-03-05', 'AB'),"
-               " (2, 'Alpha', 41, NULL, NULL), (3, 'ALPHA', 2, NULL, NULL)");
+               " (2, 'Zeta', 41, NULL, NULL), (3, 'ZETA', 2, NULL, NULL)");
         db.run("INSERT INTO IGD_DICT VALUES"
                " (10, 1, 3, 3, 'Period', 'P', 0, 66, 1, 2, 3, '1998-04-06', 'CD'),"
                " (11, 1, 3, 7, 'Upper', 'U', 0, 30, 0, 0, 0, NULL, NULL),"

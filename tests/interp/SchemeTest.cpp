@@ -121,7 +121,7 @@ TEST_F(InterpTest, SchemesStandByNameIgnoringCaseAndMayBeMissing)
     Ids ids;
     for (const igd_sch* scheme : list)
         ids.push_back(scheme->sch_id);
-    EXPECT_EQ((Ids{3, 2, 1}), ids) << "as the database gave ALPHA and Alpha";
+    EXPECT_EQ((Ids{1, 3, 2}), ids) << "as the database gave ZETA and Zeta";
     const igd_sch empty(2L, 1), missing(99L, 1), unnamed("none", 10, 1);
     EXPECT_EQ("99999|0|0|", joined(empty.youngestAge, empty.oldestAge, empty.nLevels));
     EXPECT_EQ("0|0|10|-2|-2|0|",

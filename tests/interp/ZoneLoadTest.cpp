@@ -138,10 +138,10 @@ TEST_F(InterpTest, CoverageJoinsWhatOneSchemeCovers)
     for (const auto& [rule, first, second, expected] :
         {std::tuple{"several in a row",
              Zones{{1, 2, 1, 5}, {2, 3, 1, 6}, {3, 4, 1, 7}, {4, 5, 2, 8}}, Zones{},
-             "1|4|beta|7|4|5|Alpha|8|"},
+             "1|4|beta|7|4|5|Zeta|8|"},
             {"what is covered already", {{1, 9, 1, 5}}, {{2, 9, 2, 6}}, "1|9|beta|5|"},
-            {"what reaches further", {{1, 9, 1, 5}}, {{2, 10, 2, 6}}, "1|9|beta|5|2|10|Alpha|6|"},
-            {"the deeper base stays", {{2, 9, 1, 5}, {1, 5, 1, 6}}, {}, "1|9|beta|5|"}}) {
+            {"what reaches further", {{1, 9, 1, 5}}, {{2, 10, 2, 6}}, "1|9|beta|5|2|10|Zeta|6|"},
+            {"the deeper base stays", {{2, 5, 1, 6}}, {{1, 9, 1, 5}}, "1|9|beta|5|"}}) {
         MadeList upper(4, 'F'), lower(4);
         for (const auto& [list, zones] : {std::pair{&upper, first}, {&lower, second}}) {
             for (const Zone& z : zones) {
