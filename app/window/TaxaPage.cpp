@@ -25,7 +25,7 @@ namespace {
 
 constexpr int kTableWidth = 730;
 constexpr int kPause = 250;       // milliseconds: longer than between two keys
-constexpr int kPanelLetters = 46; // of middling width, in the narrowest panel
+constexpr int kPanelLetters = 50; // of middling width, in the narrowest panel
 
 QLineEdit* makeField(QWidget* parent)
 {
