@@ -123,7 +123,7 @@ private:
         std::size_t year = words_.size();
         while (year > next_ && yearIn(words_[year - 1]) == 0)
             --year;
-        for (std::size_t i = next_ + 1; i < words_.size(); ++i) {
+        for (std::size_t i = std::max<std::size_t>(next_, 1); i < words_.size(); ++i) {
             const bool sense = words_[i - 1] == "sensu" && markOf("sensu " + words_[i]).empty();
             if (sense || (i < year && isPerson(i)))
                 return i;

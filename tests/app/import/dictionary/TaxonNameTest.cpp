@@ -85,6 +85,7 @@ const NameCase kNames[] = {
     // Authors.
     {"Alphina betana Gamma 1901", "g:Alphina|s:betana|a:Gamma|year=1901"},
     {"Alphina betana d'Orbigny, 1826", "g:Alphina|s:betana|a:d'Orbigny,|year=1826"},
+    {"Alphina d'Orbigny 1826", "g:Alphina|a:d'Orbigny|year=1826"},
     {"Alphina betana (de Man & Eta, 1990)", "g:Alphina|s:betana|a:(de Man & Eta, 1990)"},
     {"Alphina betana minor de Man 1884", "g:Alphina|s:betana|b:minor|a:de Man|year=1884"},
     {"Alphina betana (Gamma)", "g:Alphina|s:betana|b:(Gamma)"},
