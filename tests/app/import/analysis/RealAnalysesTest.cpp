@@ -1,6 +1,8 @@
 // tests/app/import/analysis/RealAnalysesTest.cpp
+#include "db/CurrentUser.h"
 #include "tests/app/ImportRun.h"
 #include "tests/app/RealData.h"
+#include "tests/support/Restore.h"
 
 #include <array>
 #include <chrono>
@@ -127,5 +129,31 @@ INSTANTIATE_TEST_SUITE_P(Sets, OtherAnalyses,
             "3226.247"}, // 10584.8 ft
         OtherSet{"surveys", {"force_lithology"}, {"tvd_points.csv 992/956/0/0/0/36"},
             "SELECT tvdepth FROM WELLTVD ORDER BY abs(ddepth - 245.44) LIMIT 1", "245.43"}));
+
+// The set names neither well nor discipline; whoever brings it in adds them.
+TEST(RealCounts, NeedWellAndDiscipline)
+{
+    const auto set = kData / "goa_foram_counts";
+    if (!std::filesystem::is_directory(set))
+        GTEST_SKIP() << "the real data sets are not beside the repository";
+    const Folder folder;
+    folder.write("wells.csv", "well_code,units\nIODP 341-U1419,M\n");
+    for (const char* file : {"samples.csv", "taxa.csv"})
+        std::filesystem::copy_file(set / file, folder.path() / file);
+    std::string counts = "samp_id,spec_id,count,disc_id\n";
+    long sum = 0;
+    for (Record& record : recordsOf(set / "counts.csv")) {
+        counts += record["samp_id"] + ',' + record["spec_id"] + ',' + record["count"] + ",M\n";
+        sum += std::stol(record["count"]);
+    }
+    folder.write("counts.csv", counts);
+    TestDatabase db;
+    const Restore user(currentUserAbr);
+    currentUserAbr = "ME";
+    IssueLog log;
+    const ImportResult first = importFiles({{folder.path()}, false}, log);
+    EXPECT_THAT(countsOf(first), testing::Contains("counts.csv 3587/3587/0/0/0/0"));
+    EXPECT_EQ(std::to_string(sum), db.value("SELECT sum(medium) FROM TAXONOCC"));
+}
 
 } // namespace
