@@ -32,9 +32,10 @@ public:
     Listing(Well& well, char disc, char units)
         : disc_(disc)
         , units_(units)
-        , table_({{"depth" + unitTitle(units), Right}, {"type"}, {"analyst"}, {"taxon"}, {"status"},
-              {"identified"}, {"caved"}, {"marker"}, {"code"}, {"medium", Right}, {"coarse", Right},
-              {"fine", Right}, {"preservation"}, {"comments"}})
+        , table_({{"top" + unitTitle(units), Right}, {"base" + unitTitle(units), Right}, {"type"},
+              {"analyst"}, {"taxon"}, {"status"}, {"identified"}, {"caved"}, {"marker"}, {"code"},
+              {"medium", Right}, {"coarse", Right}, {"fine", Right}, {"preservation"},
+              {"comments"}})
     {
         well.CollectTaxa(disc, taxa_);
         for (Taxon* taxon : taxa_)
@@ -72,13 +73,13 @@ private:
     void add(const Sample& sample, const Smpdtl& record, const Fssabnd& o)
     {
         const auto name = names_.find(o.spec_id);
-        table_.add(
-            {sampleDepthText(sample, units_), sample.GetType(), std::string(record.analyst.view()),
-                name == names_.end() ? "" : name->second, o.isReworked() ? "reworked" : "in place",
-                o.ident_type == '?' ? "questionable" : "certain", o.isCaved() ? "caved" : "",
-                o.marker ? "marker" : "", shownText(o.abund.view()), countText(o.medium),
-                countText(o.coarse), countText(o.fine), shownText(o.preserv.view()),
-                shownText(o.comments.view())});
+        table_.add({depthText(sample.GetTop(units_, 0, 0)), depthText(sample.GetBase(units_, 0, 0)),
+            sample.GetType(), std::string(record.analyst.view()),
+            name == names_.end() ? "" : name->second, o.isReworked() ? "reworked" : "in place",
+            o.ident_type == '?' ? "questionable" : "certain", o.isCaved() ? "caved" : "",
+            o.marker ? "marker" : "", shownText(o.abund.view()), countText(o.medium),
+            countText(o.coarse), countText(o.fine), shownText(o.preserv.view()),
+            shownText(o.comments.view())});
     }
 
     char disc_;
