@@ -52,6 +52,16 @@ struct IGDKind {
 const IGDKind& igdKindOf(int igd_type);
 
 // Loaders, each in a file of its own.
+bool loadCasings(IGDList& list, const IGDLoad& from);
+bool loadEnvironments(IGDList& list, const IGDLoad& from);
+bool loadIntLithology(IGDList& list, const IGDLoad& from);
+bool loadLithQualifiers(IGDList& list, const IGDLoad& from);
+bool loadSeismicMarkers(IGDList& list, const IGDLoad& from);
 bool loadZones(IGDList& list, const IGDLoad& from);
 
+// How the types that are saved are saved, beside their loaders.
+bool saveIntLithology(const IGDList& list, char unit, int negate);
+bool saveLithQualifiers(const IGDList& list, char unit, int negate);
+
+extern const SampledRecords kSampledEnvironments;
 extern const SampledRecords kSampledZones;

@@ -10,6 +10,7 @@ class IGDSchemeList;
 class IGDZone;
 class ItemList;
 class Well;
+struct SQPick;
 
 /// The interpretation of one type of one well: its records, ordered by depth as far as they came in
 /// by `insert`. Owns its records and destroys them. No operation moves the list's own cursor,
@@ -30,6 +31,11 @@ public:
     /// type 4, named after their schemes, neighbours of one scheme joined. The well, the unit and
     /// the title are those of the first list.
     IGDList(const IGDList* const* lists, int n);
+    /// The sequences of one rank (1 to 8; any other has none) that picks bound: every term of the
+    /// schemes of their surfaces whose upper age one pick has, and whose lower age another one of
+    /// that scheme, the first of them, is a zone between their samples. Metres, not negated. Picks
+    /// without a sample or an age bound nothing. Failed statements are those of `igd_sch`.
+    IGDList(const TypedList<SQPick>& picks, const Well& well, int hier);
     ~IGDList();
 
     using TypedList::insert;
@@ -65,7 +71,9 @@ public:
     /// Replaces the well's rows by the list, and commits, when it has changed or `unit` (0: the
     /// list's) is not its own: the depths are then read as being in that unit. Nothing for types
     /// that are not saved. After a failure, which is reported, nothing is committed and the caller
-    /// rolls back. All cursors must be closed.
+    /// rolls back. All cursors must be closed. Free texts of lithology qualifiers are not stored,
+    /// and rows of interval lithology whose rock the dictionary has not got, which are never
+    /// loaded, are gone: who must not lose them asks the database first.
     void save(char unit, int negate);
 
     int igd_type() const { return igd_type_; }

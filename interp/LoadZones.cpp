@@ -6,6 +6,7 @@
 #include "db/Literals.h"
 #include "interp/IGDTypes.h"
 #include "interp/IGDZone.h"
+#include "interp/LoadedDepths.h"
 #include "well/Well.h"
 
 #include <memory>
@@ -75,15 +76,10 @@ std::unique_ptr<IGDZone> readZone(int igd_type, const Cursor& row)
 
 void takeFromSamples(IGDZone& zone, const IGDList& list, Well& well)
 {
-    SampleList& samples = well.samples;
-    const int negate = well.type == 'O';
-    const auto depthOf = [&](long samp_id) {
-        return samples.DepthOf(list.well_id(), samp_id, list.unit(), negate, 0);
-    };
-    zone.setTop(depthOf(zone.top_id));
-    zone.setBase(depthOf(zone.base_id));
-    zone.topSampleType = samples.TypeOf(zone.top_id);
-    zone.baseSampleType = samples.TypeOf(zone.base_id);
+    zone.setTop(depthOfSample(list, well, zone.top_id));
+    zone.setBase(depthOfSample(list, well, zone.base_id));
+    zone.topSampleType = well.samples.TypeOf(zone.top_id);
+    zone.baseSampleType = well.samples.TypeOf(zone.base_id);
 }
 
 } // namespace

@@ -2,11 +2,11 @@
 #include "interp/igd_sch.h"
 
 #include "db/Literals.h"
-#include "db/Session.h"
 #include "dict/FirstRow.h"
 #include "interp/LocaleDate.h"
 #include "interp/NameOrder.h"
 #include "interp/PlaceIndex.h"
+#include "interp/RunAndCommit.h"
 #include "interp/TermOrder.h"
 #include "taxonomy/TextArgument.h"
 
@@ -26,14 +26,10 @@ long storedScheme(const FixedText<80>& name)
     return sch_id;
 }
 
-bool deleteAndCommit(const char* table, long sch_id, const char* failure)
+bool deleteScheme(const char* table, long sch_id, const char* failure)
 {
-    if (!runStatement("DELETE FROM " + sql::table(table) + whereScheme(sch_id))) {
-        reportError(failure);
-        return false;
-    }
-    dbCommit();
-    return true;
+    return runAndCommit(
+        "DELETE FROM " + sql::table(table) + whereScheme(sch_id), failure, FailureText::Alone);
 }
 
 } // namespace
@@ -142,8 +138,8 @@ void igd_sch::take(igdDict* term, Places& places)
 
 int igd_sch::removeFromDB()
 {
-    return deleteAndCommit(
+    return deleteScheme(
                "IGD_DICT", sch_id, "Failed to remove dictionary terms in igd_sch::removeFromDB()")
-        && deleteAndCommit(
+        && deleteScheme(
             "IGD_SCH", sch_id, "Failed to remove IGD scheme in igd_sch::removeFromDB()");
 }
