@@ -19,11 +19,10 @@ struct Values {
 
 int listSamples(const Values& values)
 {
-    const auto loaded = wellOf(values.well);
+    const auto loaded = sampledWellOf(values.well);
     if (!loaded)
         return kFailed;
-    Well& well = loaded->well;
-    well.LoadSamples(0);
+    const Well& well = loaded->well;
     const char units = values.units ? values.units : well.units;
     const std::string unit = unitTitle(units);
     TextTable table({{"depth" + unit, Right}, {"top" + unit, Right}, {"base" + unit, Right},

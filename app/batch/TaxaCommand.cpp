@@ -2,6 +2,7 @@
 #include "app/batch/Command.h"
 #include "app/batch/Commands.h"
 #include "app/batch/Failure.h"
+#include "app/batch/NumberRange.h"
 #include "app/batch/TextTable.h"
 #include "app/import/TaxonName.h"
 #include "app/import/Words.h"
@@ -12,7 +13,6 @@
 #include "util/TextUtil.h"
 
 #include <algorithm>
-#include <charconv>
 #include <iostream>
 #include <iterator>
 #include <memory>
@@ -37,28 +37,6 @@ std::optional<TaxonPatterns> patternsOf(const TaxaQuery& query)
     for (const std::string& argument : query.patterns)
         std::ranges::move(wordsOf(argument), std::back_inserter(words));
     return taxonPatterns(words, query.category);
-}
-
-struct CodeRange {
-    long from = 0, to = 0;
-};
-
-// "100-200" or "100"; none for any other text.
-std::optional<CodeRange> codesOf(std::string_view text)
-{
-    CodeRange codes;
-    if (text.empty())
-        return codes;
-    const char* const end = text.data() + text.size();
-    const auto first = std::from_chars(text.data(), end, codes.from);
-    if (first.ec != std::errc() || codes.from < 1)
-        return std::nullopt;
-    codes.to = codes.from;
-    if (first.ptr == end)
-        return codes;
-    const auto second = std::from_chars(first.ptr + 1, end, codes.to);
-    const bool good = *first.ptr == '-' && second.ec == std::errc() && second.ptr == end;
-    return good && codes.from <= codes.to ? std::optional(codes) : std::nullopt;
 }
 
 // The scheme by its name or number; false with a text for the user.
@@ -108,7 +86,7 @@ int listTaxa(const TaxaQuery& query)
     if (!patterns)
         return failed("A name has a genus, a species and a subspecies; quote what belongs together "
                       "with * in it.");
-    const auto codes = codesOf(query.codes);
+    const auto codes = query.codes.empty() ? NumberRange{} : numberRange(query.codes);
     if (!codes)
         return failed("--codes " + query.codes + ": a range such as 100-200 is meant.");
     SynonymyScheme scheme;

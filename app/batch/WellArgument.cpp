@@ -20,6 +20,14 @@ std::unique_ptr<LoadedWell> wellOf(const std::string& text)
     return nullptr;
 }
 
+std::unique_ptr<LoadedWell> sampledWellOf(const std::string& text)
+{
+    std::unique_ptr<LoadedWell> loaded = wellOf(text);
+    if (loaded)
+        loaded->well.LoadSamples(0);
+    return loaded;
+}
+
 std::unique_ptr<LoadedWell> loadedWellOf(const std::string& text)
 {
     std::unique_ptr<LoadedWell> loaded = wellOf(text);

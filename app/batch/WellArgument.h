@@ -10,6 +10,9 @@
 /// there is none.
 std::unique_ptr<LoadedWell> wellOf(const std::string& text);
 
+/// The same with its samples.
+std::unique_ptr<LoadedWell> sampledWellOf(const std::string& text);
+
 /// The same with all that its loaders read; what they told goes to the standard error stream.
 std::unique_ptr<LoadedWell> loadedWellOf(const std::string& text);
 

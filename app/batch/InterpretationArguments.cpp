@@ -1,0 +1,46 @@
+// app/batch/InterpretationArguments.cpp
+#include "app/batch/InterpretationArguments.h"
+
+#include "app/batch/Failure.h"
+#include "app/batch/WellArgument.h"
+#include "app/shell/CollectedReports.h"
+#include "interp/IGDList.h"
+#include "interp/IGDTypes.h"
+#include "util/TextUtil.h"
+
+namespace {
+
+constexpr int kBiozones = 4; // without a name in one direction
+
+std::string nameOf(int type) { return type == kBiozones ? "Biozone" : typeName(type, 0); }
+
+} // namespace
+
+int typeOf(const std::string& text)
+{
+    std::string known;
+    for (const int type : kZoneTypes) {
+        const std::string name = nameOf(type);
+        if (compareIgnoringCase(text, name) == 0 || text == std::to_string(type))
+            return type;
+        known += (known.empty() ? "" : ", ") + std::to_string(type) + " (" + name + ')';
+    }
+    failed("There are no zones of type " + text + ". There are: " + known + '.');
+    return 0;
+}
+
+std::unique_ptr<IGDList> zonesOf(
+    LoadedWell& loaded, int type, int firstRank, int lastRank, long interp_id, char units)
+{
+    constexpr long kAnyScheme = 0;
+    // Biozones are asked for by their schemes; those that the well has are found here.
+    LoadStep step;
+    step.name = nameOf(type);
+    CollectedReports reports;
+    auto list = std::make_unique<IGDList>(
+        type, firstRank, lastRank, &loaded.well, units, kAnyScheme, interp_id, nullptr);
+    list->removeMissingSamples(&loaded.well);
+    step.reports = reports.take();
+    writeReports(step);
+    return list;
+}

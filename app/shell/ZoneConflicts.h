@@ -1,0 +1,25 @@
+// app/shell/ZoneConflicts.h
+#pragma once
+
+#include "interp/IGDList.h"
+
+#include <string>
+#include <vector>
+
+class IGDZone;
+class Well;
+
+/// Two zones of one list that cannot stand beside each other.
+struct ZoneConflict {
+    const IGDBase* first; ///< in the order of the list
+    const IGDBase* second;
+    int kind; ///< -1: they overlap; -2: their shared boundary has two qualities
+};
+
+/// Every such pair of the list, once. Each record is asked against each other one in both
+/// directions, since the check is not symmetric.
+std::vector<ZoneConflict> conflictsOf(const IGDList& list);
+
+/// In words, with depths in the list's unit and qualities: "overlaps from 100.00 to 120.00", "meet
+/// at 100.00, which is Confident above and Fault below".
+std::string conflictText(const ZoneConflict& conflict);
