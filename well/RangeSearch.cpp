@@ -42,7 +42,7 @@ bool RangeSearch::isCandidate(const Sample& s, float depth) const
 
 void RangeSearch::look(Sample& s, float depth)
 {
-    for (const Smpdtl* record : recordsOf(s, query_.disc, query_.analyst)) {
+    for (const Smpdtl* record : RecordsOf(s, query_.disc, query_.analyst)) {
         for (const Fssabnd* o : record->occurrences) {
             const auto taxon = wanted_.find(o->spec_id);
             if (taxon == wanted_.end())

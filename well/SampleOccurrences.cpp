@@ -107,14 +107,16 @@ int Sample::HasTaxon(
             return false;
         return suspectOnly ? o->isReworked() || o->isCaved() : countsForRange(*o, mode, exclude);
     };
-    return std::ranges::any_of(recordsOf(*this, disc, analyst), [&counts](const Smpdtl* record) {
-        return std::any_of(record->occurrences.begin(), record->occurrences.end(), counts);
-    });
+    for (const Smpdtl* record : RecordsOf(*this, disc, analyst)) {
+        if (std::any_of(record->occurrences.begin(), record->occurrences.end(), counts))
+            return 1;
+    }
+    return 0;
 }
 
 void Sample::MarkRange(long spec_id, int mode, int exclude, char disc)
 {
-    for (const Smpdtl* record : recordsOf(*this, disc, nullptr)) {
+    for (const Smpdtl* record : RecordsOf(*this, disc, nullptr)) {
         for (Fssabnd* o : record->occurrences) {
             if (o->spec_id == spec_id && countsForRange(*o, mode, exclude))
                 o->rangeMark = mode <= 2;
@@ -124,7 +126,7 @@ void Sample::MarkRange(long spec_id, int mode, int exclude, char disc)
 
 void Sample::CollectTaxa(char disc, TaxonList& taxa) const
 {
-    for (const Smpdtl* record : recordsOf(*this, disc, nullptr)) {
+    for (const Smpdtl* record : RecordsOf(*this, disc, nullptr)) {
         for (const Fssabnd* o : record->occurrences) {
             if (taxa.contains(o->spec_id))
                 continue;
@@ -141,7 +143,7 @@ void Sample::CollectSpecIds(char disc, long* ids, int* count) const
     // The entries may be those of a well, far more than this sample has: they are not indexed here.
     std::vector<long> found;
     std::unordered_set<long> missing;
-    for (const Smpdtl* record : recordsOf(*this, disc, nullptr)) {
+    for (const Smpdtl* record : RecordsOf(*this, disc, nullptr)) {
         for (const Fssabnd* o : record->occurrences) {
             if (missing.insert(o->spec_id).second)
                 found.push_back(o->spec_id);

@@ -17,7 +17,7 @@ std::unordered_set<long> taxaIn(
     for (const Sample* s : samples) {
         if (!window.holds(s->GetDepth('M', 0, 1)))
             continue;
-        for (const Smpdtl* record : recordsOf(*s, disc, analyst)) {
+        for (const Smpdtl* record : RecordsOf(*s, disc, analyst)) {
             for (const Fssabnd* o : record->occurrences)
                 taxa.insert(o->spec_id);
         }
