@@ -8,6 +8,8 @@
 #include "interp/IGDTypes.h"
 #include "util/TextUtil.h"
 
+#include <CLI/CLI.hpp>
+
 namespace {
 
 constexpr int kBiozones = 4; // without a name in one direction
@@ -27,6 +29,17 @@ int typeOf(const std::string& text)
     }
     failed("There are no zones of type " + text + ". There are: " + known + '.');
     return 0;
+}
+
+void addInterpretation(CLI::App* command, long* interp_id)
+{
+    command->add_option("--interp", *interp_id, "Number of the interpretation (default: 0)")
+        ->type_name("N");
+}
+
+std::unique_ptr<IGDList> recordsOf(LoadedWell& loaded, int type, long interp_id, char units)
+{
+    return zonesOf(loaded, type, kWidestRank, kFinestRank, interp_id, units);
 }
 
 std::unique_ptr<IGDList> zonesOf(

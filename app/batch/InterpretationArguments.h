@@ -6,6 +6,9 @@
 #include <vector>
 
 class IGDList;
+namespace CLI {
+class App;
+}
 struct LoadedWell;
 
 /// Which of a well's interpretations, and of that which zones.
@@ -20,6 +23,13 @@ struct ZoneQuery {
 /// The code of an interpretation type from its number, its name or the letter-case-blind name of
 /// any; 0 after telling the standard error stream which there are.
 int typeOf(const std::string& text);
+
+/// The option that names an interpretation.
+void addInterpretation(CLI::App* command, long* interp_id);
+
+/// All records of one type of a loaded well; what the loading told goes to the standard error
+/// stream.
+std::unique_ptr<IGDList> recordsOf(LoadedWell& loaded, int type, long interp_id, char units);
 
 /// The zones of one type of a loaded well; what the loading told goes to the standard error stream.
 std::unique_ptr<IGDList> zonesOf(

@@ -25,12 +25,6 @@ constexpr int kLongForm = 1;
 
 std::string depthOf(float depth) { return fixedString(depth, 2); }
 
-void addInterpretation(CLI::App* command, long* interp_id)
-{
-    command->add_option("--interp", *interp_id, "Number of the interpretation (default: 0)")
-        ->type_name("N");
-}
-
 std::string nameOf(const IGDBase& record) { return shownText(record.label()); }
 
 // Biozones of a well have their ranks named under the types of their schemes.
