@@ -1,6 +1,7 @@
 // bench/support/BenchDatabase.cpp
 #include "bench/support/BenchDatabase.h"
 
+#include "app/shell/DriverLibrary.h"
 #include "app/shell/OpenDatabase.h"
 #include "db/Session.h"
 #include "store/Statement.h"
@@ -43,6 +44,15 @@ BenchDatabase::~BenchDatabase()
 {
     dbDisconnect();
     removeFiles(file_);
+}
+
+std::string BenchDatabase::connectString() const
+{
+    std::string error;
+    const std::string driver = driverLibrary(&error);
+    if (driver.empty())
+        giveUp(error);
+    return embeddedConnectString(driver, file_.string(), 0, FileAccess::Open);
 }
 
 void BenchDatabase::run(const std::string& sql)

@@ -17,6 +17,9 @@ public:
     /// Runs a statement that gives no rows, on the session's connection and in its transaction.
     void run(const std::string& sql);
 
+    /// How another connection reaches the same file.
+    std::string connectString() const;
+
 private:
     std::filesystem::path file_;
 };
