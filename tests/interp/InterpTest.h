@@ -32,15 +32,14 @@ struct InterpData {
                " (1002, 'Pyrite', 'PYR', 'A'), (1003, 'Calcareous', 'CAL', 'Y')");
         db.run("INSERT INTO ZRILITH VALUES (7, 150, 200.1, 1001), (7, 100, 150, 1000),"
                " (7, 210, 220, 4444), (8, 5, 6, 1000)");
-        db.run("INSERT INTO ZRQLITH VALUES (7, 100, 120, 1002, 'A', 'R', 2.7, 'stored'),"
-               " (7, 130, 130, 1002, 'Z', 'L', 1, 'see core'), (7, 140, 150, 4444, 'S', NULL, 1,"
-               " 'stored')");
+        db.run("INSERT INTO ZRQLITH VALUES (7, 100, 120, 1002, 'A', 'R', 2.7, 'stored'), (7, 130,"
+               " 130, 1002, 'Z', 'L', 1, 'see core'), (7, 140, 150, 4, 'S', NULL, 1, 'stored')");
         db.run("INSERT INTO ENV_SCH VALUES (1, 'marine'), (2, 'Zonal'), (3, 'Zonal')");
-        db.run("INSERT INTO ENVSCHMBR VALUES (1, 5, ' \u00c5pen', 4, 5, 6), (1, 1, 'Coast', 1, 2,"
+        db.run("INSERT INTO ENVSCHMBR VALUES (1, 5, ' Åpen', 4, 5, 6), (1, 1, 'Coast', 1, 2,"
                " 3), (1, 2, 'Shelf', 0, 0, 0), (1, 9, NULL, 9, 9, 9)");
-        db.run("INSERT INTO IGD_ENV VALUES (7, NULL, 1, 2, 2, 3, 0, 0, 1, 1, '1998-03-05', 'AB'),"
-               " (7, 0, 2, 9, 0, 0, 0, 0, 0, 77, NULL, NULL), (7, 6, 1, 3, 3, 0, 0, 0, 8, 1, NULL,"
-               " NULL)");
+        db.run(
+            "INSERT INTO IGD_ENV VALUES (7, NULL, 1, 2, 2, 3, 0, 0, 1, 1, '1998-03-05', 'AB'),"
+            " (7, 0, 2, 9, 0, 0, 0, 0, 0, 77, NULL, ''), (7, 6, 1, 3, 3, 0, 0, 0, 8, 1, '', '')");
         db.run("INSERT INTO WELL_IDENT VALUES (7, 'C-7', NULL)");
         db.run("INSERT INTO CASING VALUES (7, 1000, '13 3/8'), (7, 500, '20')");
         db.run("INSERT INTO WELLSMARK VALUES (7, 1000, 'red')");
