@@ -16,8 +16,7 @@ namespace {
 constexpr float kSameDepth = 0.01f;
 
 /// As `runOrReport`, but a statement that ran and could not be closed, which the session reported,
-/// counts as failed: when the connection was lost there and then made again, all that ran before is
-/// undone, and what runs after must not be committed by itself.
+/// counts as failed: it would keep the commit from being made, and the list would pass for saved.
 bool ranToItsEnd(const std::string& sql)
 {
     Cursor statement(sql);
