@@ -77,7 +77,6 @@ TEST_F(InterpTest, EnvironmentSchemesKeepTwentyTerms)
     EXPECT_EQ("|9|ERROR term: 5" + error + "255|", shown(marine, 3) + shown(marine, 4));
     marine.setTermCount(6);
     marine.setTermName(5, "given");
-    marine.setTermColour(20, kWhite);
     EXPECT_EQ("ERROR term: 5" + error + "0|given|0|", shown(marine, 4) + shown(marine, 5));
     const char* names[] = {"one", nullptr};
     const Colour colours[] = {{1, 2, 3}, {4, 5, 6}};

@@ -60,8 +60,7 @@ TEST_F(InterpTest, LithologyStatementsNameDepthsAndPlacesAsTheyAreHeld)
     copy->copyFrom(qualifier);
     list.insert(copy);
     list.setChanged(0);
-    list.save(0, 0);   // has not changed
-    list.save('F', 0); // nor is that another unit
+    list.save(0, 0); // has not changed
     list.save('M', 1);
     const std::string interval = table("ZRILITH"), beside = table("ZRQLITH"),
                       into = "INSERT INTO " + beside
