@@ -1,14 +1,16 @@
 // app/OpenMainWindow.cpp
 #include "app/OpenMainWindow.h"
 
+#include "app/shell/FindWell.h"
 #include "app/shell/OpenDatabase.h"
 #include "app/window/MainWindow.h"
+#include "app/window/WellsPage.h"
 #include "db/ErrorReporter.h"
 #include "db/Session.h"
 #include "platform/zapp/qt/QtToolkit.h"
 #include "platform/zapp/qt/QtWindow.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QPixmap>
 
 namespace {
@@ -45,13 +47,50 @@ std::unique_ptr<MainWindow> makeWindow(const ConnectionSettings& settings)
     return main;
 }
 
-bool savePicture(MainWindow& main, const std::string& file)
+// The colours that a dark desktop gives its windows.
+QPalette darkPalette()
 {
+    const QColor window(0x35, 0x35, 0x35), base(0x23, 0x23, 0x23), text(Qt::white);
+    QPalette palette(text, window, Qt::black, Qt::black, Qt::darkGray, text, text, base, window);
+    palette.setColor(QPalette::AlternateBase, QColor(0x2b, 0x2b, 0x2b));
+    palette.setColor(QPalette::Mid, QColor(0x60, 0x60, 0x60));
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, Qt::gray);
+    palette.setColor(QPalette::Highlight, QColor(0x2a, 0x82, 0xda));
+    palette.setColor(QPalette::HighlightedText, text);
+    palette.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);
+    palette.setColor(QPalette::Disabled, QPalette::Text, Qt::gray);
+    palette.setColor(QPalette::Disabled, QPalette::ButtonText, Qt::gray);
+    return palette;
+}
+
+// What is wrong; empty: nothing.
+std::string show(MainWindow& main, const PictureOptions& picture)
+{
+    if (picture.width > 0 && picture.height > 0)
+        main.resize(picture.width, picture.height);
+    std::string error;
+    const long well = picture.well.empty() ? 0 : findWell(picture.well, &error);
+    if (well != 0)
+        main.wells().chooseWell(well);
+    if (error.empty() && !picture.view.empty()
+        && !main.wells().openView(QString::fromStdString(picture.view)))
+        error = "No tab is called " + picture.view + '.';
+    while (main.wells().isReading())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    return error;
+}
+
+bool savePicture(MainWindow& main, const PictureOptions& picture)
+{
+    std::string error = show(main, picture);
     QCoreApplication::processEvents(); // lays the panes out
-    if (main.grab().save(QString::fromStdString(file), "PNG"))
-        return true;
-    reportError("The picture " + file + " could not be written.");
-    return false;
+    if (error.empty() && !main.grab().save(QString::fromStdString(picture.file), "PNG"))
+        error = "The picture " + picture.file + " could not be written.";
+    if (!error.empty())
+        reportError(error);
+    return error.empty();
 }
 
 /// The session lasts as long as the window.
@@ -80,11 +119,13 @@ int openMainWindow(const StartArguments& start, const ConnectionSettings& settin
 }
 
 int saveMainWindow(
-    const StartArguments& start, const ConnectionSettings& settings, const std::string& pictureFile)
+    const StartArguments& start, const ConnectionSettings& settings, const PictureOptions& picture)
 {
     return run(start, [&](zApp& app) -> std::unique_ptr<RootWindow> {
+        if (picture.dark)
+            QApplication::setPalette(darkPalette());
         const std::unique_ptr<MainWindow> main = makeWindow(settings);
-        if (!main || !savePicture(*main, pictureFile))
+        if (!main || !savePicture(*main, picture))
             app.setExitStatus(1);
         app.setRootWindow(nullptr);
         return nullptr;

@@ -11,8 +11,9 @@ int main(int argc, char** argv)
         return *status;
     const StartArguments start = startArguments(argc, argv);
     if (!options.run)
-        return options.picture.empty() ? openMainWindow(start, options.connection)
-                                       : saveMainWindow(start, options.connection, options.picture);
+        return options.picture.file.empty()
+            ? openMainWindow(start, options.connection)
+            : saveMainWindow(start, options.connection, options.picture);
     // Without a toolkit of its own the process shows its message boxes on the console.
     return zonarisEntry(start.instance, start.previous, start.commandLine.c_str(), start.show,
         [&](zApp& app) { app.setExitStatus(runCommand(options)); });

@@ -13,6 +13,16 @@ enum class DatabaseNeed {
     IfNamed, ///< looks into one when the user names it
 };
 
+/// A picture of the window, for documents.
+struct PictureOptions {
+    std::string file; ///< PNG; empty: none is asked for
+    std::string well; ///< the well to choose, by code, name or number; empty: the first
+    std::string view; ///< the view of it, by the title of its tab; empty: the first
+    int width = 0;    ///< pixels; 0: as the window opens
+    int height = 0;
+    bool dark = false; ///< colours of a dark desktop
+};
+
 /// What the command line asks for.
 struct BatchOptions {
     ConnectionSettings connection;
@@ -20,8 +30,8 @@ struct BatchOptions {
     /// status. None: the main window.
     std::function<int()> run;
     DatabaseNeed database = DatabaseNeed::Open;
-    std::string newFile; ///< create: the file, when it stands behind the command
-    std::string picture; ///< without a command: save the window as this PNG file and end
+    std::string newFile;    ///< create: the file, when it stands behind the command
+    PictureOptions picture; ///< without a command: save the window and end
 };
 
 // Exit statuses of the program.

@@ -40,6 +40,17 @@ void addConnectionOptions(CLI::App& app, ConnectionSettings* connection)
         ->type_name("ABR");
 }
 
+// For the pictures in documents; no group hides them from the help.
+void addPictureOptions(CLI::App& app, PictureOptions* picture)
+{
+    app.add_option("--screenshot", picture->file)->type_name("FILE.png")->group("");
+    app.add_option("--show-well", picture->well)->type_name("WELL")->group("");
+    app.add_option("--show-tab", picture->view)->type_name("TITLE")->group("");
+    app.add_option("--show-width", picture->width)->type_name("PIXELS")->group("");
+    app.add_option("--show-height", picture->height)->type_name("PIXELS")->group("");
+    app.add_flag("--show-dark", picture->dark)->group("");
+}
+
 constexpr void (*kCommands[])(CLI::App&, BatchOptions*) = {
     addCreate,
     addImport,
@@ -60,6 +71,9 @@ constexpr void (*kCommands[])(CLI::App&, BatchOptions*) = {
     addDepthOfAge,
     addZones,
     addConflicts,
+    addLithology,
+    addEnvironment,
+    addPicks,
     addTaxa,
     addTaxon,
     addAbundance,
@@ -96,8 +110,7 @@ std::optional<int> readCommandLine(int argc, const char* const* argv, BatchOptio
     addConnectionOptions(app, &options->connection);
     for (const auto addOne : kCommands)
         addOne(app, options);
-    // For the pictures in documents; no group hides it from the help.
-    app.add_option("--screenshot", options->picture)->type_name("FILE.png")->group("");
+    addPictureOptions(app, &options->picture);
     try {
         app.parse(argc, argv);
         checkTogether(options);

@@ -29,6 +29,9 @@ public:
     void openFile(const QString& file);
     /// The units that all depths are shown in from now on.
     void setUnits(DepthUnits units);
+    /// The page of the wells: which well is chosen, which of its views is in sight, whether it is
+    /// still being loaded.
+    WellsPage& wells() const { return *wells_; }
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -30,7 +30,6 @@ void lookLikeTable(QTableView& table)
 void fitColumns(QTableView& table)
 {
     table.resizeColumnsToContents();
-    // The last column takes what is left anyway.
-    for (int column = 0; column + 1 < table.model()->columnCount(); ++column)
+    for (int column = 0; column < table.model()->columnCount(); ++column)
         table.setColumnWidth(column, table.columnWidth(column) + kColumnMargin);
 }

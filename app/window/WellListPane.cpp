@@ -61,7 +61,7 @@ WellListPane::WellListPane(QWidget* parent)
     connect(field_, &QLineEdit::textChanged, this, &WellListPane::search);
     connect(field_, &QLineEdit::returnPressed, this, &WellListPane::enterList);
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
-        &WellListPane::choose);
+        &WellListPane::chooseRow);
     const auto onKey = [](Qt::Key key, QWidget* where, auto* pane, auto member) {
         connect(new QShortcut(
                     QKeySequence(key), where, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
@@ -110,7 +110,15 @@ void WellListPane::enterList()
 
 void WellListPane::clearSearch() { field_->clear(); }
 
-void WellListPane::choose(const QModelIndex& row)
+bool WellListPane::choose(long well_id)
+{
+    const QModelIndex row = rowOf(well_id);
+    if (row.isValid())
+        list_->setCurrentIndex(row);
+    return row.isValid();
+}
+
+void WellListPane::chooseRow(const QModelIndex& row)
 {
     if (marking_ || !row.isValid())
         return;

@@ -22,6 +22,9 @@ public:
     /// list is. Emits `wellChosen` either way.
     void setWells(std::vector<WellName> wells);
 
+    /// Chooses that well as the user would; whether it is among those in sight.
+    bool choose(long well_id);
+
     /// Puts the keyboard into the search field.
     void startSearch();
 
@@ -35,7 +38,7 @@ private:
     void search(const QString& text);
     void enterList();
     void clearSearch();
-    void choose(const QModelIndex& row);
+    void chooseRow(const QModelIndex& row);
     void markChosen();
     QModelIndex rowOf(long well_id) const;
     void countRows();

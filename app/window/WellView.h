@@ -1,9 +1,10 @@
 // app/window/WellView.h
 #pragma once
 
-#include "app/window/DepthUnits.h"
-
 #include <QWidget>
+
+#include <string>
+#include <vector>
 
 class Well;
 
@@ -14,15 +15,17 @@ class WellView : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// Shows `well` (null: nothing) with depths in `units` ('F' or 'M'); the well lives until the
-    /// next call.
-    virtual void showWell(const Well* well, char units) = 0;
-    /// The same well in `units`; `shown` is what the user chose.
-    virtual void setUnits(DepthUnits shown, char units) = 0;
+    /// Shows `well` (null: nothing) with depths in `units` ('F' or 'M'), as far as it is loaded;
+    /// the well lives until the next call.
+    virtual void showWell(Well* well, char units) = 0;
+    /// More of the same well may be loaded by now.
+    virtual void showMore() = 0;
+    /// The same well in `units`.
+    virtual void setUnits(char units) = 0;
     /// What takes the keyboard.
     virtual QWidget& place() const = 0;
 
 signals:
-    /// The user turned a switch for the units.
-    void unitsChosen(DepthUnits units);
+    /// The view read further things of the database, and that is what was told.
+    void told(const QString& reading, const std::vector<std::string>& reports);
 };

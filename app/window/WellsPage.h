@@ -9,14 +9,20 @@
 
 class QStackedWidget;
 class QTabWidget;
+class ReadingBar;
+class ReportStrip;
 class StartPage;
+class UnitsSwitch;
 class Well;
 class WellHeaderPanel;
 class WellListPane;
+class WellReader;
 class WellView;
+struct LoadedWell;
 
-/// The wells of the database, and the header and the views of the chosen one. Without wells it says
-/// what to do about it.
+/// The wells of the database, and the header and the views of the chosen one: its samples at once,
+/// the rest as it is loaded, with what was refused at the foot. Without wells it says what to do
+/// about it.
 class WellsPage : public Page {
     Q_OBJECT
 
@@ -28,6 +34,12 @@ public:
     void setDatabase(const QString& name, const QString& option);
     /// The units that all depths are shown in from now on.
     void setUnits(DepthUnits units);
+    /// As if the user chose that well of the list; whether it is there.
+    bool chooseWell(long well_id);
+    /// Brings the view with that title into sight; whether there is one.
+    bool openView(const QString& title);
+    /// Whether the chosen well is still being loaded.
+    bool isReading() const;
 
     void read() override;
     void startSearch() override;
@@ -41,14 +53,18 @@ signals:
 
 private:
     void addView(WellView* view, const QString& title);
+    void addViews();
     QWidget* makeDetails();
+    void connectReader();
     void showWell(long well_id);
+    Well* well() const;
     char shownUnits() const;
 
     QString databaseName_;
     QString databaseOption_;
     DepthUnits units_ = DepthUnits::OfWell;
-    std::unique_ptr<Well> well_; // chosen; header and views point into it
+    std::unique_ptr<LoadedWell> well_; // chosen; header, views and reader point into it
+    WellReader* reader_;
 
     QStackedWidget* states_; // the start, or list and details
     StartPage* start_;
@@ -56,5 +72,8 @@ private:
     WellListPane* wells_;
     WellHeaderPanel* header_;
     QTabWidget* tabs_;
+    UnitsSwitch* switch_;
+    ReadingBar* reading_;
+    ReportStrip* reports_;
     std::vector<WellView*> views_; // in the order of the tabs
 };

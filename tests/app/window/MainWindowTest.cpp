@@ -176,13 +176,13 @@ TEST_F(MainWindowTest, EveryPlaceOfTheKeyboardHasAName)
     activate();
     QStringList names;
     desk.find<QLineEdit>("wellSearch").setFocus();
-    for (int stop = 0; stop < 5; ++stop) {
+    for (int stop = 0; stop < 6; ++stop) {
         names += desk.window->focusWidget()->accessibleName();
         QTest::keyClick(desk.window->focusWidget(), Qt::Key_Tab);
     }
     EXPECT_EQ(names,
         QStringList({"Find a well by name or code", "Wells", "Header of the well",
-            "Units of depths", "Samples of the well"}));
+            "Views of the well", "Units of depths", "Samples of the well"}));
 }
 
 TEST_F(MainWindowTest, TellsItsVersion)

@@ -76,7 +76,9 @@ TEST_F(Program, EndsWithTheWindow)
 TEST_F(Program, SavesAPictureOfTheWindow)
 {
     const std::string file = workspace::newFile("window.png");
-    EXPECT_EQ(saveMainWindow(start, settings(db.file()), file), 0);
+    PictureOptions picture;
+    picture.file = file;
+    EXPECT_EQ(saveMainWindow(start, settings(db.file()), picture), 0);
     EXPECT_EQ(QImage(QString::fromStdString(file)).size(), QSize(1100, 700));
 }
 
