@@ -24,6 +24,7 @@ FrozenTable::FrozenTable(QAbstractItemModel* model, int frozen, QWidget* parent)
         view->verticalHeader()->hide();
         view->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignBottom);
     }
+    frozen_->setObjectName(QStringLiteral("samplesOfOccurrences"));
     frozen_->setSelectionModel(table_->selectionModel());
     frozen_->setSelectionMode(QAbstractItemView::NoSelection);
     frozen_->setFocusPolicy(Qt::NoFocus);

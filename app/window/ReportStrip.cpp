@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int kLines = 6;       // of the texts in sight
+constexpr int kLines = 7;       // of the texts in sight
 constexpr int kArrowRoom = 40;  // pixels beside the text of the line
 constexpr int kMostTexts = 999; // a bad well may have one for each of its rows
 

@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -160,6 +161,22 @@ TEST_F(WellTabs, TaxaStandInTheOrderOfTheirTops)
     select("occurrenceDiscipline", "Discipline P");
     EXPECT_THAT(
         shownRows(model("occurrenceTable"))[0], testing::StartsWith("1010.00|CU|–|barren|"));
+}
+
+TEST_F(WellTabs, APressOnTheColumnsThatStayMarksTheRow)
+{
+    openLoaded("Occurrences");
+    auto& table = desk.find<QTableView>("occurrenceTable");
+    for (int column = 4; column < 9; ++column)
+        table.setColumnWidth(column, 400);
+    QCoreApplication::processEvents(); // which lays the columns out
+    table.horizontalScrollBar()->setValue(500);
+    ASSERT_EQ(500, table.horizontalScrollBar()->value());
+    auto& frozen = *table.parentWidget()->findChild<QTableView*>(
+        QStringLiteral("samplesOfOccurrences"), Qt::FindDirectChildrenOnly);
+    QTest::mouseClick(frozen.viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(9, table.selectionModel()->selectedIndexes().size());
+    EXPECT_EQ(500, table.horizontalScrollBar()->value()) << "the others stand where they stood";
 }
 
 TEST_F(WellTabs, TablesShowWhatTheDatabaseHasInEitherUnit)
