@@ -65,7 +65,8 @@ SampleFinder::WellDepths* SampleFinder::of(long wellId)
     select.bind(1, wellId);
     WellDepths depths;
     const auto take = [&](const std::vector<Value>& values) {
-        depths.emplace(depthOf(values[1], values[2]), integerOf(values[0]));
+        if (values[1] != Value() || values[2] != Value()) // one without a depth is at none
+            depths.emplace(depthOf(values[1], values[2]), integerOf(values[0]));
     };
     if (readAll(select, {Type::Integer, Type::Number, Type::Number}, take))
         return &wells_.emplace(wellId, std::move(depths)).first->second;

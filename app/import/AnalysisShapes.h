@@ -53,6 +53,7 @@ enum {
     YoungestAge,
     OldestZone,
     YoungestZone,
+    ZoneScheme,
     Notes,
     Count
 };
@@ -81,6 +82,7 @@ inline constexpr ColumnShape kColumns[] = {
     {YoungestAge, "age_youngest youngest_age", CellKind::Text, BadCell::IsLeftOut},
     {OldestZone, "zone_bottom oldest_zone", CellKind::Text, BadCell::IsLeftOut},
     {YoungestZone, "zone_top youngest_zone", CellKind::Text, BadCell::IsLeftOut},
+    {ZoneScheme, "zone_scheme", CellKind::Text, BadCell::IsLeftOut, false, 80},
     {Notes, "notes comments", CellKind::Text, BadCell::IsLeftOut, false, 240},
 };
 static_assert(std::size(kColumns) == Count);

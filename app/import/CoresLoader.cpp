@@ -1,9 +1,9 @@
 // app/import/CoresLoader.cpp
 #include "app/import/AnalysisCells.h"
 #include "app/import/DepthShapes.h"
+#include "app/import/IntervalCells.h"
 #include "app/import/Loader.h"
 #include "app/import/RowPlaces.h"
-#include "app/import/WellCells.h"
 #include "store/DepthWriters.h"
 
 namespace {
@@ -24,7 +24,10 @@ public:
             error_ = context_.error();
             return false;
         }
-        readDepths(cells);
+        DepthInterval interval;
+        readInterval(cells, {cores::Top, cores::Base, cores::Units}, well_, &interval);
+        record_.top = interval.top;
+        record_.base = interval.base;
         if (const auto recovered = readYesNo(cells, cores::Recovered))
             record_.recovered = textValue(*recovered ? "Y" : "N");
         if (cells.key(cores::Number, &record_.number) != Cell::Good || cells.report().refused())
@@ -46,23 +49,6 @@ public:
     }
 
 private:
-    void readDepths(CellReader& cells)
-    {
-        if (cells.raw(cores::Top).empty())
-            cells.refuse(cores::Top, "has no top");
-        if (cells.raw(cores::Base).empty())
-            cells.refuse(cores::Base, "has no base");
-        if (cells.report().refused())
-            return;
-        DepthCells depths(cells, cores::Units, well_);
-        const bool good = depths.read(cores::Top, &record_.top) == Cell::Good
-            && depths.read(cores::Base, &record_.base) == Cell::Good;
-        if (!good && !cells.report().refused())
-            cells.refuse(cores::Top, "top or base is not known");
-        else if (good && record_.base <= record_.top)
-            cells.refuse(cores::Base, "the base does not lie below the top");
-    }
-
     ImportContext& context_;
     CoreWriter writer_;
     FirstRows rows_;

@@ -1,6 +1,7 @@
 // app/import/DetailsLoader.cpp
 #include "app/import/AnalysisCells.h"
 #include "app/import/AnalysisShapes.h"
+#include "app/import/DetailZones.h"
 #include "app/import/Loader.h"
 #include "app/import/NamedNotes.h"
 #include "app/import/RowPlaces.h"
@@ -49,6 +50,7 @@ public:
     explicit DetailsLoader(ImportContext& context)
         : context_(context)
         , writer_(context.writing)
+        , zones_(context)
     {
     }
 
@@ -75,11 +77,17 @@ public:
             error_ = context_.analyses.error();
             return false;
         }
-        if (decision_->refusal.empty())
-            readNotes(cells);
-        else
+        place_ = place;
+        if (!decision_->refusal.empty()) {
             cells.report().refuse("", "", decision_->refusal);
-        return true;
+            return true;
+        }
+        readNotes(cells);
+        if (context_.phase == ImportPhase::Storing
+            || zones_.note(cells, {sample_, discipline, category, analyst.user->abr}))
+            return true;
+        error_ = zones_.error();
+        return false;
     }
 
     Outcome store() override
@@ -95,9 +103,13 @@ public:
         record_.set(DetailColumn::WellId, Value(sample_->well->id));
         record_.set(DetailColumn::Discipline, textValue(std::string(1, analysis.discipline)));
         const Outcome outcome = writer_.put(record_);
-        if (outcome == Outcome::Failed)
-            error_ = writer_.error();
-        return outcome == Outcome::Same && header != outcome ? Outcome::Changed : outcome;
+        const Outcome zone = outcome == Outcome::Failed ? outcome : zones_.store(place_);
+        if (zone == Outcome::Failed) {
+            error_ = outcome == Outcome::Failed ? writer_.error() : zones_.error();
+            return zone;
+        }
+        const bool isSame = outcome == Outcome::Same && header == outcome && zone == outcome;
+        return outcome == Outcome::Same && !isSame ? Outcome::Changed : outcome;
     }
 
 private:
@@ -216,11 +228,13 @@ private:
 
     ImportContext& context_;
     DetailWriter writer_;
+    DetailZones zones_;
     Decisions<Decision> decisions_;
     std::unordered_map<std::string, std::vector<std::pair<std::size_t, RowPlace>>> looks_;
 
     // The row at hand.
     DetailRecord record_;
+    RowPlace place_;
     const FileId* sample_ = nullptr;
     const Decision* decision_ = nullptr;
     std::optional<long> scheme_;

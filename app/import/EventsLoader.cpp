@@ -3,13 +3,12 @@
 #include "app/import/DictionaryCells.h"
 #include "app/import/EventCells.h"
 #include "app/import/EventShapes.h"
+#include "app/import/IntervalCells.h"
 #include "app/import/Loader.h"
 #include "app/import/NamedNotes.h"
 #include "app/import/RowPlaces.h"
 #include "app/import/WellCells.h"
-#include "store/DepthWriters.h"
 #include "store/EventWriter.h"
-#include "store/SampleWriter.h"
 #include "util/TextUtil.h"
 
 #include <algorithm>
@@ -26,21 +25,11 @@ constexpr TextCell kTexts[] = {{cell::Analyst, EventColumn::Analyst},
     {cell::Qualifier, EventColumn::Qualifier}, {cell::Source, EventColumn::Source},
     {cell::Company, EventColumn::Company}};
 
-std::string metres(double depth)
-{
-    std::string text = std::to_string(depth);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.ends_with('.'))
-        text.pop_back();
-    return text;
-}
-
 class EventsLoader : public RowLoader {
 public:
     explicit EventsLoader(ImportContext& context)
         : context_(context)
         , writer_(context.writing)
-        , samples_(context.writing)
     {
     }
 
@@ -76,10 +65,13 @@ public:
     {
         record_.wellId = well_->id;
         record_.eventId = entry_->id;
+        DepthSamples& samples = context_.interpretation.samples;
         const std::optional<long> sample =
-            sample_ ? std::optional(sample_->databaseId) : sampleAtDepth();
-        if (!sample)
+            sample_ ? std::optional(sample_->databaseId) : samples.at(*well_, depth_);
+        if (!sample) {
+            error_ = samples.error();
             return Outcome::Failed;
+        }
         record_.set(EventColumn::Sample, Value(*sample));
         const Outcome outcome = writer_.put(record_);
         if (outcome == Outcome::Failed)
@@ -122,8 +114,8 @@ private:
     {
         const bool isOutcrop = well_ && well_->type == 'O';
         depth_ = (kind == 'F') != isOutcrop ? most : least;
-        notes->add("from", metres(least));
-        notes->add("to", metres(most));
+        notes->add("from", metresText(least));
+        notes->add("to", metresText(most));
     }
 
     void readTexts(CellReader& cells, NamedNotes* notes)
@@ -142,31 +134,8 @@ private:
             record_.set(EventColumn::Comments, textValue(notes->compose()));
     }
 
-    // None: `error_`.
-    std::optional<long> sampleAtDepth()
-    {
-        const auto found = finder_.at(well_->id, depth_);
-        if (!found)
-            error_ = finder_.error();
-        if (!found || *found != 0)
-            return found;
-        SampleRecord sample;
-        sample.wellId = well_->id;
-        sample.top = sample.base = depth_;
-        sample.type = well_->type == 'O' ? "OC" : "LOG";
-        long id = 0;
-        if (samples_.put(sample, &id) == Outcome::Failed) {
-            error_ = samples_.error();
-            return std::nullopt;
-        }
-        finder_.add(well_->id, depth_, id);
-        return id;
-    }
-
     ImportContext& context_;
     EventWriter writer_;
-    SampleWriter samples_;
-    SampleFinder finder_;
     FirstRows rows_;
 
     // The row at hand.

@@ -157,6 +157,32 @@ private:
     std::string unkept_;
 };
 
+bool hasRequired(const FileShape& shape, const std::vector<std::string>& header)
+{
+    const auto isThere = [&](const ColumnShape& column) {
+        return std::ranges::any_of(header, [&](const std::string& name) {
+            const auto match = matchHeader(shape, plainName(name));
+            return match && match->column == column.column;
+        });
+    };
+    return std::ranges::all_of(shape.columns,
+        [&](const ColumnShape& column) { return !column.required || isThere(column); });
+}
+
+// Of several kinds of that name the first whose columns are there; else the first of all.
+void chooseShape(InputFile* file, const std::vector<std::string>& header)
+{
+    const std::string stem = lowerCased(file->path.stem().string());
+    const auto shapes = shapesOfFile(stem);
+    if (shapes.empty())
+        return;
+    const auto found = std::ranges::find_if(
+        shapes, [&](const FileShape* shape) { return hasRequired(*shape, header); });
+    if (found != shapes.end())
+        file->shape = *found;
+    file->namedExactly = stem == file->shape->name && !file->shape->sharesName;
+}
+
 } // namespace
 
 void readHeader(InputFile* file, FileReport* report)
@@ -175,5 +201,6 @@ void readHeader(InputFile* file, FileReport* report)
         report->note("", "",
             reader.separator() == ';' ? "fields are separated by semicolons"
                                       : "fields are separated by tabs");
+    chooseShape(file, row.fields);
     HeaderMapper(file, report).map(row.fields);
 }

@@ -5,6 +5,7 @@
 #include "app/import/Analyses.h"
 #include "app/import/Dictionary.h"
 #include "app/import/InputFile.h"
+#include "app/import/Interpretation.h"
 #include "store/AbundanceWriter.h"
 #include "store/EventWriter.h"
 #include "store/WellWriter.h"
@@ -36,9 +37,10 @@ struct KnownWell {
 /// numbers count within one set of files and one import only.
 struct FileId {
     RowPlace place;
-    long databaseId = 0;             ///< 0 until the row is stored
-    const KnownWell* well = nullptr; ///< of a sample
-    long ordinal = 0;                ///< of a sample: rows that are the same sample share it
+    long databaseId = 0;              ///< 0 until the row is stored
+    const KnownWell* well = nullptr;  ///< of a sample
+    long ordinal = 0;                 ///< of a sample: rows that are the same sample share it
+    std::optional<double> depth = {}; ///< of a sample, in metres
 };
 using FileIds = std::unordered_map<std::string, FileId>;
 
@@ -51,6 +53,7 @@ public:
         , abundances(mode)
         , analyses(mode)
         , events(mode)
+        , interpretation(mode)
         , stored_(Writing::Check)
     {
     }
@@ -64,6 +67,7 @@ public:
     Analyses analyses;
     EventDictionaryWriter events;
     Numbered<EventEntry> numberedEvents;
+    Interpretation interpretation;
 
     /// What a set of files says about its abundances.
     struct SetAbundances {

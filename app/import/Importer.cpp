@@ -7,6 +7,7 @@
 #include "app/import/Loader.h"
 #include "store/Transaction.h"
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <numeric>
@@ -50,6 +51,8 @@ private:
         for (InputFile& file : inputs_.files)
             good = readColumns(file) && good;
         std::erase_if(inputs_.files, [](const InputFile& file) { return !file.shape; });
+        // A header may have told what a name did not.
+        std::ranges::stable_sort(inputs_.files, {}, &InputFile::shape);
         return good;
     }
 

@@ -35,7 +35,8 @@ struct InputFile {
 
 /// Reads the header into `file->columns` and tells `report` of columns that are not kept and of
 /// what makes the file unusable: empty, unreadable, a required column missing. A file whose name is
-/// only similar and that lacks a required column is another kind of file: it loses its shape.
+/// only similar and that lacks a required column is another kind of file: it loses its shape. Of
+/// several kinds with that name it becomes the one whose required columns it has.
 void readHeader(InputFile* file, FileReport* report);
 
 /// Reads the rows once to find out what only a whole column tells: decimal commas, and whether a

@@ -32,7 +32,8 @@ std::string knownNames()
 {
     std::string names;
     for (const FileShape& shape : fileShapes())
-        names.append(names.empty() ? "" : ", ").append(shape.name).append(".csv");
+        if (names.find(std::string(shape.name) + '.') == std::string::npos)
+            names.append(names.empty() ? "" : ", ").append(shape.name).append(".csv");
     return names;
 }
 
@@ -74,8 +75,8 @@ private:
         if (!met_.insert(real).second)
             return;
         const std::string stem = lowerCased(file.stem().string());
-        const FileShape* shape = shapeOfFile(stem);
-        if (!shape) {
+        const auto shapes = shapesOfFile(stem);
+        if (shapes.empty()) {
             found_.left.push_back({Severity::Note, file.filename().string(), 0, "", "",
                 "no such file is known; left"});
             return;
@@ -83,8 +84,7 @@ private:
         InputFile input;
         input.path = file;
         input.set = real.parent_path().string();
-        input.shape = shape;
-        input.namedExactly = stem == shape->name && !shape->sharesName;
+        input.shape = shapes.front();
         sets_.insert(input.set);
         found_.files.push_back(std::move(input));
     }

@@ -49,3 +49,20 @@ std::unique_ptr<RowLoader> makeEventsLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeStandardLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeTvdLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeCoresLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeInterpretationSchemesLoader(ImportContext& context);
+/// Of terms of schemes: time scales, zonations, lithostratigraphic units.
+std::unique_ptr<RowLoader> makeTimeScaleLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeZonationLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeUnitsLoader(ImportContext& context);
+/// Of zones of wells.
+std::unique_ptr<RowLoader> makeFormationTopsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeAgeIntervalsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeLithologiesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeLayersLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeIntervalsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeComponentsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeEnvironmentTermsLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeCasingLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeMarkersLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeSurfacesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makePicksLoader(ImportContext& context);

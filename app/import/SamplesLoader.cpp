@@ -135,6 +135,7 @@ private:
         if (fileId_) {
             fileId_->well = well_;
             fileId_->ordinal = first->second.ordinal;
+            fileId_->depth = record_.base ? record_.base : record_.top;
         }
         if (isNew || first->second.place == place)
             return;

@@ -4,7 +4,13 @@
 #include "app/import/AnalysisShapes.h"
 #include "app/import/DepthShapes.h"
 #include "app/import/EventShapes.h"
+#include "app/import/InterpretationShapes.h"
 #include "app/import/Loader.h"
+#include "app/import/MarkerShapes.h"
+#include "app/import/RockShapes.h"
+
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -134,6 +140,13 @@ static_assert(inOrder(sample_details::kColumns) && inOrder(occurrences::kColumns
 static_assert(inOrder(event_dictionary::kColumns) && inOrder(events::kColumns));
 static_assert(inOrder(composite_standard::kColumns));
 static_assert(inOrder(tvd_points::kColumns) && inOrder(cores::kColumns));
+static_assert(inOrder(interpretation_schemes::kColumns) && inOrder(terms::kChronostratColumns));
+static_assert(inOrder(well_zones::kFormationColumns));
+static_assert(inOrder(lithologies::kColumns) && inOrder(rock_layers::kColumns));
+static_assert(inOrder(intervals::kColumns) && inOrder(lithology_components::kColumns));
+static_assert(inOrder(environment_terms::kColumns) && inOrder(casing::kColumns));
+static_assert(inOrder(seismic_markers::kColumns) && inOrder(surfaces::kColumns));
+static_assert(inOrder(picks::kColumns));
 
 constexpr FileShape kShapes[] = {
     {"wells", kWells, makeWellsLoader},
@@ -155,6 +168,24 @@ constexpr FileShape kShapes[] = {
     {"composite_standard", composite_standard::kColumns, makeStandardLoader},
     {"tvd_points", tvd_points::kColumns, makeTvdLoader},
     {"cores", cores::kColumns, makeCoresLoader},
+    {"chronostrat", terms::kChronostratColumns, makeTimeScaleLoader},
+    {"schemes", interpretation_schemes::kColumns, makeInterpretationSchemesLoader, true},
+    {"zones", terms::kZoneColumns, makeZonationLoader},
+    {"lithostrat_units", terms::kUnitColumns, makeUnitsLoader},
+    {"formation_tops", well_zones::kFormationColumns, makeFormationTopsLoader},
+    {"age_intervals", well_zones::kAgeColumns, makeAgeIntervalsLoader},
+    {"simple_lithology", lithologies::kColumns, makeLithologiesLoader},
+    {"lithologies", lithologies::kColumns, makeLithologiesLoader},
+    {"lithology_codes", lithologies::kColumns, makeLithologiesLoader},
+    {"lithology_layers", rock_layers::kColumns, makeLayersLoader},
+    {"lithology_intervals", rock_layers::kColumns, makeLayersLoader},
+    {"intervals", intervals::kColumns, makeIntervalsLoader, true},
+    {"lithology_components", lithology_components::kColumns, makeComponentsLoader},
+    {"env_scheme", environment_terms::kColumns, makeEnvironmentTermsLoader},
+    {"casing", casing::kColumns, makeCasingLoader},
+    {"seismic_markers", seismic_markers::kColumns, makeMarkersLoader},
+    {"surfaces", surfaces::kColumns, makeSurfacesLoader},
+    {"picks", picks::kColumns, makePicksLoader},
 };
 
 bool isNameBreak(char c) { return c == '-' || c == '_' || c == '.' || c == ' '; }
@@ -171,10 +202,19 @@ bool namesShape(std::string_view stem, std::string_view shape)
 
 std::span<const FileShape> fileShapes() { return kShapes; }
 
-const FileShape* shapeOfFile(std::string_view stem)
+std::vector<const FileShape*> shapesOfFile(std::string_view stem)
 {
+    std::vector<const FileShape*> shapes;
     for (const FileShape& shape : kShapes)
         if (namesShape(stem, shape.name))
-            return &shape;
-    return nullptr;
+            shapes.push_back(&shape);
+    std::ranges::stable_sort(
+        shapes, std::greater(), [](const FileShape* shape) { return shape->name.size(); });
+    return shapes;
+}
+
+const FileShape* shapeOfFile(std::string_view stem)
+{
+    const auto shapes = shapesOfFile(stem);
+    return shapes.empty() ? nullptr : shapes.front();
 }

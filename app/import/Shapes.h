@@ -4,6 +4,7 @@
 #include <memory>
 #include <span>
 #include <string_view>
+#include <vector>
 
 class ImportContext;
 class RowLoader;
@@ -47,8 +48,10 @@ struct FileShape {
 /// In the order in which they have to be stored: each behind those whose rows it refers to.
 std::span<const FileShape> fileShapes();
 
-/// The shape of a file by its name without extension, in lower case ("wells", "wells-2024",
-/// "north_wells"); null when there is none.
+/// The shapes that a file may have by its name without extension, in lower case ("wells",
+/// "wells-2024", "north_wells"): those that say the most of its name first.
+std::vector<const FileShape*> shapesOfFile(std::string_view stem);
+/// The first of them; null when there is none.
 const FileShape* shapeOfFile(std::string_view stem);
 
 namespace wells {
