@@ -75,7 +75,8 @@ Outcome EventDictionaryWriter::put(EventEntry& entry, long specId)
     Row row(std::size(kEntry));
     if (specId != 0)
         row[kSpecId] = Value(specId);
-    if (!entry.isStored) {
+    const bool isKnown = entry.isStored;
+    if (!isKnown) {
         const std::optional<long> id = ids_.next();
         if (!id)
             return failed(ids_.error());
@@ -85,7 +86,10 @@ Outcome EventDictionaryWriter::put(EventEntry& entry, long specId)
             textValue(currentUserAbr.view()), dateValue(Date::Today())};
     }
     const Outcome outcome = putRow(table_, writing_, {Value(entry.id)}, row);
-    return outcome == Outcome::Failed ? failed(table_.error()) : outcome;
+    if (outcome == Outcome::Failed)
+        return failed(table_.error());
+    // Checking, the database does not have what was announced.
+    return isKnown && outcome == Outcome::New ? Outcome::Same : outcome;
 }
 
 EventWriter::EventWriter(Writing writing)

@@ -30,8 +30,10 @@ TEST_P(RealInterpretations, AreStoredOnce)
     if (!std::filesystem::is_directory(inputs.front()))
         GTEST_SKIP() << "the real data sets are not beside the repository";
     IssueLog log;
+    const ImportResult dry = importFiles({{inputs}, true}, log);
     const ImportResult first = importFiles({{inputs}, false}, log);
     ASSERT_EQ("", first.failure);
+    EXPECT_EQ(countsOf(dry), countsOf(first));
     EXPECT_THAT(countsOf(first), testing::IsSupersetOf(GetParam().counts));
     EXPECT_EQ(GetParam().expected, db.value(GetParam().sql));
     EXPECT_EQ(0, importFiles({{inputs}, false}, log).stored());
