@@ -15,8 +15,10 @@ std::optional<long> DepthSamples::at(const KnownWell& well, double depth)
     sample.top = sample.base = depth;
     sample.type = well.type == 'O' ? "OC" : "LOG";
     long id = 0;
-    if (samples_.put(sample, &id) == Outcome::Failed) {
-        error_ = samples_.error();
+    if (!samples_)
+        samples_ = std::make_unique<SampleWriter>(writing_);
+    if (samples_->put(sample, &id) == Outcome::Failed) {
+        error_ = samples_->error();
         return std::nullopt;
     }
     finder_.add(well.id, depth, id);

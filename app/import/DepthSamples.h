@@ -4,6 +4,7 @@
 #include "store/DepthWriters.h"
 #include "store/SampleWriter.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -14,7 +15,7 @@ struct KnownWell;
 class DepthSamples {
 public:
     explicit DepthSamples(Writing writing)
-        : samples_(writing)
+        : writing_(writing)
     {
     }
 
@@ -25,6 +26,7 @@ public:
 
 private:
     SampleFinder finder_;
-    SampleWriter samples_;
+    Writing writing_;
+    std::unique_ptr<SampleWriter> samples_; // asks the database when it is made
     std::string error_;
 };

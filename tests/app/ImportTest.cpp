@@ -99,11 +99,11 @@ TEST_F(Importing, KnowsFilesByTheirNames)
     folder.write("wells-old.csv", "code\nC\n");
     folder.write("swells.csv", "well_code\nD\n");
     folder.write("wells.txt", "well_code\nE\n");
-    folder.write("zones.csv", "well_code\nF\n");
+    folder.write("unknown.csv", "well_code\nF\n");
     EXPECT_EQ("", import({folder.path()}).failure);
     EXPECT_THAT(log.texts,
         ElementsAre("swells.csv: note: no such file is known; left",
-            "zones.csv: note: no such file is known; left",
+            "unknown.csv: note: no such file is known; left",
             "wells-old.csv: note: has no column well_code; left as another kind of file"));
     EXPECT_THAT(db.rows("SELECT well_code FROM WELLS ORDER BY 1"), ElementsAre("A", "B"));
 }
