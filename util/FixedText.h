@@ -56,7 +56,8 @@ private:
         // The source may be this object's own bytes.
         text = text.substr(0, text.find('\0'));
         const std::string_view kept = utf8Prefix(text, Capacity);
-        std::memmove(bytes_.data(), kept.data(), kept.size());
+        if (!kept.empty()) // an empty view may have no bytes at all
+            std::memmove(bytes_.data(), kept.data(), kept.size());
         std::memset(bytes_.data() + kept.size(), 0, bytes_.size() - kept.size());
     }
 
