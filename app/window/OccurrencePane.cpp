@@ -3,6 +3,7 @@
 
 #include "app/shell/CollectedReports.h"
 #include "app/shell/WellLoading.h"
+#include "app/window/Choices.h"
 #include "app/window/FrozenTable.h"
 #include "app/window/OccurrenceTable.h"
 #include "app/window/TableLook.h"
@@ -20,15 +21,6 @@
 namespace {
 
 constexpr int kCellMargin = 10; // pixels beside the text of a cell, on both sides together
-
-QComboBox* makeCombo(const char* object, const QString& spoken)
-{
-    auto* combo = new QComboBox;
-    combo->setObjectName(QLatin1String(object));
-    combo->setAccessibleName(spoken);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    return combo;
-}
 
 /// Lets the choice stand as long as it is there, else the first.
 void choose(QComboBox& combo, const QVariant& data)
@@ -78,14 +70,8 @@ QWidget* OccurrencePane::makeChoice()
     auto* choice = new QWidget;
     auto* line = new QHBoxLayout(choice);
     line->setContentsMargins({});
-    const auto add = [&](const QString& text, QComboBox* combo) {
-        auto* caption = new QLabel(text);
-        caption->setBuddy(combo);
-        line->addWidget(caption);
-        line->addWidget(combo);
-    };
-    add(tr("D&iscipline"), disciplines_);
-    add(tr("&Analyst"), analysts_);
+    addChoice(*line, tr("D&iscipline"), disciplines_);
+    addChoice(*line, tr("&Analyst"), analysts_);
     line->addWidget(allSamples_);
     line->addStretch();
     return choice;

@@ -2,6 +2,7 @@
 #include "app/window/WellsPage.h"
 
 #include "app/shell/WellLoading.h"
+#include "app/window/Interpretation.h"
 #include "app/window/OccurrencePane.h"
 #include "app/window/ReadingBar.h"
 #include "app/window/ReportStrip.h"
@@ -15,11 +16,13 @@
 #include "app/window/WellNames.h"
 #include "app/window/WellReader.h"
 #include "app/window/WellTables.h"
+#include "app/window/ZonePane.h"
 
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace {
@@ -29,6 +32,12 @@ constexpr int kListWidth = 250;
 constexpr TableWords kSamples{"sampleTable", "Samples of the well", "No samples", "Samples: %1"};
 constexpr TableWords kEvents{"eventTable", "Events of the well", "No events", "Events: %1"};
 constexpr TableWords kCores{"coreTable", "Cores of the well", "No cores", "Cores: %1"};
+constexpr TableWords kLithology{"lithologyTable", "Lithology of the well", "No lithology",
+    "Rocks and what is said of them: %1"};
+constexpr TableWords kEnvironments{
+    "environmentTable", "Environments of the well", "No environments", "Environments: %1"};
+constexpr TableWords kMarkers{"markerTable", "Markers and picks of the well",
+    "No markers and no picks", "Markers and picks: %1"};
 
 } // namespace
 
@@ -124,6 +133,10 @@ void WellsPage::addViews()
     addView(new TablePane(eventTable(), kEvents), tr("Eve&nts"));
     addView(new TablePane(coreTable(), kCores), tr("&Cores"));
     addView(new SurveyPane, tr("De&pth model"));
+    addView(new ZonePane, tr("&Zones"));
+    addView(new RecordPane(lithology(), kLithology), tr("&Lithology"));
+    addView(new RecordPane(environments(), kEnvironments), tr("Environment"));
+    addView(new RecordPane(markers(), kMarkers), tr("Mar&kers and picks"));
 }
 
 QWidget* WellsPage::makeDetails()
@@ -132,6 +145,9 @@ QWidget* WellsPage::makeDetails()
     tabs_->tabBar()->setAccessibleName(tr("Views of the well"));
     tabs_->setCornerWidget(switch_);
     addViews();
+    // The arrows that a narrow window shows: the keys left and right do what they do.
+    for (QToolButton* arrow : tabs_->tabBar()->findChildren<QToolButton*>())
+        arrow->setFocusPolicy(Qt::NoFocus);
     auto* details = new QWidget;
     auto* layout = new QVBoxLayout(details);
     layout->addWidget(header_);
