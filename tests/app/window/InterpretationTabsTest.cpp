@@ -113,4 +113,14 @@ TEST_F(InterpretationTabs, RocksEnvironmentsMarkersAndPicksAreShown)
     EXPECT_EQ("492.13", shownRows(look("Lithology", "lithologyTable"))[0].substr(5, 6));
 }
 
+TEST_F(InterpretationTabs, DepthsOfASectionAreThoseOfItsSamples)
+{
+    desk.db.run("UPDATE WELLS SET type='O'");
+    desk.act("Read again");
+    look("Zones", "zoneTable");
+    select("zoneRank", "Age (7)");
+    EXPECT_THAT(shownRows(look("Zones", "zoneTable")),
+        ElementsAre("|100.00|120.00|Age|Plain|Possible|Probable|–"));
+}
+
 } // namespace
