@@ -4,6 +4,7 @@
 #include "app/batch/InterpretationArguments.h"
 #include "app/batch/TextTable.h"
 #include "app/batch/WellArgument.h"
+#include "app/shell/ZoneConflicts.h"
 #include "interp/Environment.h"
 #include "interp/IGDList.h"
 #include "interp/IntLithZone.h"
@@ -13,15 +14,27 @@
 #include "well/Sample.h"
 #include "well/Slith.h"
 
+#include <initializer_list>
 #include <iostream>
 
 namespace {
 
 using enum TextTable::Align;
 
-constexpr int kAsStored = 0;
+/// The depths of a record in two cells.
+std::vector<std::string> depthsOf(const IGDBase& record, const Well& well)
+{
+    const int negate = isSection(well);
+    return {fixedString(record.getTop(negate), 2), fixedString(record.getBase(negate), 2)};
+}
 
-std::string depthOf(float depth) { return fixedString(depth, 2); }
+void add(TextTable& table, const IGDBase& record, const Well& well,
+    std::initializer_list<std::string> what)
+{
+    std::vector<std::string> cells = depthsOf(record, well);
+    cells.insert(cells.end(), what);
+    table.add(std::move(cells));
+}
 
 int listSampleLithology(const ZoneQuery& query)
 {
@@ -64,15 +77,17 @@ int listLithology(const ZoneQuery& query)
     const std::string unit = unitTitle(units);
     TextTable table(
         {{"top" + unit, Right}, {"base" + unit, Right}, {"kind"}, {"code"}, {"lithology"}});
-    for (IGDBase* record : *recordsOf(*loaded, IntLithZone::kType, query.interp_id, units)) {
+    const auto rocks = recordsOf(*loaded, IntLithZone::kType, query.interp_id, units);
+    for (const IGDBase* record : *rocks) {
         const auto& rock = static_cast<const IntLithZone&>(*record);
-        table.add({depthOf(rock.getTop(kAsStored)), depthOf(rock.getBase(kAsStored)), "rock",
-            shownText(rock.abr.view()), shownText(rock.descr.view())});
+        add(table, rock, loaded->well,
+            {"rock", shownText(rock.abr.view()), shownText(rock.descr.view())});
     }
-    for (IGDBase* record : *recordsOf(*loaded, LithQualifier::kType, query.interp_id, units)) {
+    const auto qualifiers = recordsOf(*loaded, LithQualifier::kType, query.interp_id, units);
+    for (const IGDBase* record : *qualifiers) {
         const auto& said = static_cast<const LithQualifier&>(*record);
-        table.add({depthOf(said.getTop(kAsStored)), depthOf(said.getBase(kAsStored)),
-            kindName(said.qualType()), shownText(said.abr.view()), shownText(said.descr.view())});
+        add(table, said, loaded->well,
+            {kindName(said.qualType()), shownText(said.abr.view()), shownText(said.descr.view())});
     }
     table.write(std::cout);
     return kDone;
@@ -86,9 +101,9 @@ int listEnvironment(const ZoneQuery& query)
     const char units = query.units ? query.units : loaded->well.units;
     const std::string unit = unitTitle(units);
     TextTable table({{"top" + unit, Right}, {"base" + unit, Right}, {"environment"}});
-    for (const IGDBase* record : *recordsOf(*loaded, Environment::kType, query.interp_id, units))
-        table.add({depthOf(record->getTop(kAsStored)), depthOf(record->getBase(kAsStored)),
-            shownText(record->label())});
+    const auto environments = recordsOf(*loaded, Environment::kType, query.interp_id, units);
+    for (const IGDBase* record : *environments)
+        add(table, *record, loaded->well, {shownText(record->label())});
     table.write(std::cout);
     return kDone;
 }

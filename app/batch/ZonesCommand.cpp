@@ -20,7 +20,6 @@ namespace {
 
 using enum TextTable::Align;
 
-constexpr int kAsStored = 0;
 constexpr int kLongForm = 1;
 
 std::string depthOf(float depth) { return fixedString(depth, 2); }
@@ -34,7 +33,7 @@ std::string rankName(int type, int rank)
     return columnName(type == kBiozones ? kNamedBiozones : type, rank, kLongForm);
 }
 
-TextTable zoneTable(const IGDList& list)
+TextTable zoneTable(const IGDList& list, int negate)
 {
     const std::string unit = unitTitle(list.unit());
     TextTable table({{"top" + unit, Right}, {"base" + unit, Right}, {"rank"}, {"zone"},
@@ -44,7 +43,7 @@ TextTable zoneTable(const IGDList& list)
         const auto* zone = static_cast<const IGDZone*>(record); // of these types all are
         const igd_sch* scheme = schemes.findScheme(zone->sch_id);
         const std::string topQuality = boundaryName(zone->top_bnd);
-        table.add({depthOf(zone->getTop(kAsStored)), depthOf(zone->getBase(kAsStored)),
+        table.add({depthOf(zone->getTop(negate)), depthOf(zone->getBase(negate)),
             rankName(list.igd_type(), zone->hier()), nameOf(*zone), topQuality,
             boundaryName(zone->base_bnd), scheme ? shownText(scheme->name.view()) : ""});
     }
@@ -64,7 +63,7 @@ int listZones(const ZoneQuery& query, bool csv)
     const auto list =
         zonesOf(*loaded, type, static_cast<int>(ranks.from), static_cast<int>(ranks.to),
             query.interp_id, query.units ? query.units : loaded->well.units);
-    const TextTable table = zoneTable(*list);
+    const TextTable table = zoneTable(*list, isSection(loaded->well));
     csv ? table.writeCsv(std::cout) : table.write(std::cout);
     return kDone;
 }
@@ -81,7 +80,7 @@ int listConflicts(const ZoneQuery& query)
             const auto list = zonesOf(*loaded, type, rank, rank, query.interp_id, units);
             for (const ZoneConflict& conflict : conflictsOf(*list))
                 table.add({rankName(type, rank), nameOf(*conflict.first), nameOf(*conflict.second),
-                    conflictText(conflict)});
+                    conflictText(conflict, isSection(loaded->well))});
         }
     }
     if (table.rows() == 0)

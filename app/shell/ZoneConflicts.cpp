@@ -3,6 +3,7 @@
 
 #include "interp/IGDTypes.h"
 #include "util/TextUtil.h"
+#include "well/Well.h"
 
 #include <algorithm>
 
@@ -51,19 +52,21 @@ std::vector<ZoneConflict> conflictsOf(const IGDList& list)
     return conflicts;
 }
 
-std::string conflictText(const ZoneConflict& conflict)
+int isSection(const Well& well) { return well.type == 'O' ? 1 : 0; }
+
+std::string conflictText(const ZoneConflict& conflict, int negate)
 {
-    constexpr int kAsStored = 0;
+    constexpr int kAsHeld = 0;
     const IGDBase& a = *conflict.first;
     const IGDBase& b = *conflict.second;
-    const auto depth = [](float value) { return fixedString(value, 2); };
+    const auto depth = [negate](float held) { return fixedString(negate ? -held : held, 2); };
     if (conflict.kind == kOverlap)
-        return "overlap from " + depth(std::max(a.getTop(kAsStored), b.getTop(kAsStored))) + " to "
-            + depth(std::min(a.getBase(kAsStored), b.getBase(kAsStored)));
-    const bool inOrder = a.getTop(kAsStored) <= b.getTop(kAsStored);
+        return "overlap from " + depth(std::max(a.getTop(kAsHeld), b.getTop(kAsHeld))) + " to "
+            + depth(std::min(a.getBase(kAsHeld), b.getBase(kAsHeld)));
+    const bool inOrder = a.getTop(kAsHeld) <= b.getTop(kAsHeld);
     const IGDBase& above = inOrder ? a : b;
     const IGDBase& below = inOrder ? b : a;
     const std::string upper = boundaryName(above.baseBoundary());
-    return "meet at " + depth(below.getTop(kAsStored)) + ", which is " + upper + " above and "
+    return "meet at " + depth(below.getTop(kAsHeld)) + ", which is " + upper + " above and "
         + boundaryName(below.topBoundary()) + " below";
 }

@@ -20,6 +20,9 @@ struct ZoneConflict {
 /// directions, since the check is not symmetric.
 std::vector<ZoneConflict> conflictsOf(const IGDList& list);
 
-/// In words, with depths in the list's unit and qualities: "overlaps from 100.00 to 120.00", "meet
-/// at 100.00, which is Confident above and Fault below".
-std::string conflictText(const ZoneConflict& conflict);
+/// 1 in a section, which is measured upwards and has its records at negated depths, else 0.
+int isSection(const Well& well);
+
+/// In words, with depths in the list's unit, negated when `negate` is not 0, and qualities:
+/// "overlap from 100.00 to 120.00", "meet at 100.00, which is Confident above and Fault below".
+std::string conflictText(const ZoneConflict& conflict, int negate);

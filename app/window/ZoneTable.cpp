@@ -19,7 +19,7 @@ namespace {
 QString nameOf(const IGDBase& record) { return QString::fromStdString(shownText(record.label())); }
 
 /// What stands against each zone, in words, a line for each other zone.
-std::map<const IGDBase*, QString> conflictWords(const IGDList& list)
+std::map<const IGDBase*, QString> conflictWords(const IGDList& list, int negate)
 {
     std::map<const IGDBase*, QString> words;
     const auto add = [&words](const IGDBase* zone, const IGDBase& other, const QString& text) {
@@ -31,7 +31,7 @@ std::map<const IGDBase*, QString> conflictWords(const IGDList& list)
     for (const ZoneConflict& conflict : conflictsOf(list)) {
         if (rankOf(*conflict.first) != rankOf(*conflict.second))
             continue; // a wider unit holds the finer ones
-        const QString text = QString::fromStdString(conflictText(conflict));
+        const QString text = QString::fromStdString(conflictText(conflict, negate));
         add(conflict.first, *conflict.second, text);
         add(conflict.second, *conflict.first, text);
     }
@@ -87,7 +87,7 @@ std::vector<WellColumn> zoneColumns()
 std::vector<RecordRow> zoneRows(Well& well, int igd_type, int rank, char units)
 {
     const auto list = interpretationOf(well, igd_type, units, rank);
-    auto conflicts = conflictWords(*list);
+    auto conflicts = conflictWords(*list, isSection(well));
     SchemeNames schemes;
     std::vector<RecordRow> rows;
     for (IGDBase* record : *list) {

@@ -1,6 +1,7 @@
 // tests/app/BatchTest.cpp
 #include "tests/app/Program.h"
 
+#include <algorithm>
 #include <ostream>
 
 #include <gmock/gmock.h>
@@ -98,6 +99,36 @@ TEST_F(Program, ShowsWhatAWellHolds)
         EXPECT_EQ(shown.status, run(std::string("--database a.zdb ") + shown.arguments));
         EXPECT_THAT(shown.status == 0 ? out : err, HasSubstr(shown.text)) << shown.arguments;
     }
+}
+
+TEST_F(Program, ShowsInterpretations)
+{
+    folder.write("wells.csv", "well_code,units\nA,M\n");
+    folder.write("lithostrat_units.csv",
+        "unit_id,unit_name,level,hier,parent_id,parent_name\n1,ONE GP,GROUP,1,,\n"
+        "2,TWO GP,GROUP,1,,\n");
+    folder.write("formation_tops.csv",
+        "well_code,top_md_m,base_md_m,unit_name,level,parent_name,unit_id,parent_id\n"
+        "A,100,200,ONE GP,GROUP,,1,\nA,150,300,TWO GP,GROUP,,2,\n");
+    folder.write("lithology_codes.csv", "lith_code,lithology,abbreviation\n30000,Sandstone,SST\n");
+    folder.write("lithology_intervals.csv",
+        "well_code,top_md_m,base_md_m,lith_code,lithology\nA,100,110,30000,Sandstone\n");
+    ASSERT_EQ(0, run("create a.zdb"));
+    ASSERT_EQ(0, run("--database a.zdb import --strict .")) << err;
+    EXPECT_EQ(0, run("--database a.zdb zones A --type 2 --rank 1 --units F"));
+    EXPECT_THAT(out, HasSubstr("\n  328.08     656.17  Group  ONE GP  Confident    Confident "));
+    EXPECT_EQ(0, run("--database a.zdb conflicts A"));
+    EXPECT_THAT(out, HasSubstr("\nGroup  ONE GP  TWO GP    overlap from 150.00 to 200.00\n"));
+    EXPECT_EQ(0, run("--database a.zdb lithology A"));
+    EXPECT_THAT(out, HasSubstr("\n 100.00    110.00  rock  SST   Sandstone\n"));
+    EXPECT_EQ(0, run("--database a.zdb schemes"));
+    EXPECT_THAT(out, HasSubstr("  Lithostratigraphy  "));
+    for (const char* empty : {"environment A", "picks A"}) {
+        EXPECT_EQ(0, run(std::string("--database a.zdb ") + empty));
+        EXPECT_EQ(1, std::ranges::count(out, '\n')) << "titles only";
+    }
+    EXPECT_EQ(1, run("--database a.zdb zones A --type 7"));
+    EXPECT_THAT(err, HasSubstr("There are: 3 (Chronostratigraphy), 2 (Lithostratigraphy), 4 ("));
 }
 
 TEST_F(Program, TellsRefusedRowsFromFailures)
