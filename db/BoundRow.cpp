@@ -97,6 +97,7 @@ bool BoundRow::fetch()
 {
     const SQLRETURN result = SQLFetch(statement_);
     filled_ = odbcSucceeded(result);
+    atEnd_ = result == SQL_NO_DATA;
     return filled_ || (result == SQL_ERROR && failedOnValue(statement_));
 }
 

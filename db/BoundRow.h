@@ -24,6 +24,8 @@ public:
 
     /// Fetches the next row; false at the end or on failure.
     bool fetch();
+    /// Whether the last fetch found no more rows, rather than failing.
+    bool atEnd() const { return atEnd_; }
 
     std::optional<long> integer(short column) const;
     std::optional<double> number(short column) const;
@@ -48,4 +50,5 @@ private:
     std::vector<char> bytes_;
     std::vector<Column> columns_;
     bool filled_ = false;
+    bool atEnd_ = false;
 };

@@ -54,6 +54,7 @@ void forgetStatements(State& s)
 {
     s.statements.fill(SQL_NULL_HSTMT);
     s.open.fill(false);
+    ++s.generation;
 }
 
 // Rolls back first: some drivers refuse to disconnect while a transaction is open, and keep its

@@ -16,15 +16,25 @@ constexpr short kSingleRows = 12;
 
 Cursor::Cursor(const std::string& sql)
     : number_(dbExecute(sql))
+    , generation_(session::state().generation)
 {
 }
 
 Cursor::~Cursor() { close(); }
 
+bool Cursor::isLost() const { return generation_ != session::state().generation; }
+
+short Cursor::live() const { return isLost() ? short(0) : number_; }
+
 bool Cursor::next()
 {
-    if (bound_)
-        return bound_->fetch();
+    if (isLost())
+        return false;
+    if (bound_) {
+        const bool fetched = bound_->fetch();
+        ended_ = bound_->atEnd();
+        return fetched;
+    }
     if (singleRows_ < kSingleRows)
         ++singleRows_;
     else if (singleRows_ == kSingleRows && number_ != 0) {
@@ -32,7 +42,10 @@ bool Cursor::next()
         bound_ = BoundRow::bind(session::statementOf(number_), uses_);
         return next();
     }
-    return dbFetch(number_) == 0;
+    const SQLHSTMT statement = session::statementOf(number_);
+    const SQLRETURN result = statement == SQL_NULL_HSTMT ? SQL_ERROR : SQLFetch(statement);
+    ended_ = result == SQL_NO_DATA;
+    return odbcSucceeded(result);
 }
 
 // What is read in several ways is left to the driver, which converts anew each time.
@@ -49,14 +62,14 @@ long Cursor::integer(short column) const
 {
     use(column, ColumnUse::Integer);
     const auto bound = bound_ ? bound_->integer(column) : std::nullopt;
-    return bound ? *bound : dbGetLong(number_, column);
+    return bound ? *bound : dbGetLong(live(), column);
 }
 
 double Cursor::number(short column) const
 {
     use(column, ColumnUse::Number);
     const auto bound = bound_ ? bound_->number(column) : std::nullopt;
-    return bound ? *bound : dbGetDouble(number_, column);
+    return bound ? *bound : dbGetDouble(live(), column);
 }
 
 std::string Cursor::text(short column) const { return std::string(view(column)); }
@@ -66,7 +79,7 @@ std::string_view Cursor::view(short column) const
     use(column, ColumnUse::Text);
     if (const auto bound = bound_ ? bound_->text(column) : std::nullopt)
         return trimmedRight(*bound);
-    long_ = columns::readText(session::statementOf(number_), column);
+    long_ = columns::readText(session::statementOf(live()), column);
     return trimmedRight(long_);
 }
 
@@ -74,14 +87,14 @@ char Cursor::letter(short column) const
 {
     use(column, ColumnUse::Letter);
     const auto bound = bound_ ? bound_->letter(column) : std::nullopt;
-    return bound ? *bound : dbGetChar(number_, column);
+    return bound ? *bound : dbGetChar(live(), column);
 }
 
-long Cursor::rowCount() const { return dbRowCount(number_); }
+long Cursor::rowCount() const { return dbRowCount(live()); }
 
 int Cursor::close()
 {
-    const short number = number_;
+    const short number = live();
     number_ = 0;
     const int result = dbCloseCursor(number);
     bound_.reset(); // once the driver knows the buffers no more

@@ -14,6 +14,9 @@ class BoundRow;
 /// A running statement of the session that closes itself: the way this system reads rows.
 /// Opens with `dbExecute`, so it occupies a cursor number; construct late, let it go early.
 ///
+/// When the connection is lost and made again while it is open, its rows end there, and it closes
+/// nothing: its number may be another statement's by then.
+///
 /// A long result is read faster from its second dozen of rows on: the columns are bound then, as
 /// they have been read until there. What is read stays the same, whatever is read when.
 class Cursor {
@@ -28,6 +31,11 @@ public:
     explicit operator bool() const { return number_ != 0; }
     /// The session's cursor number; 0 when closed or failed.
     short number() const { return number_; }
+    /// Whether the session was connected again since.
+    bool isLost() const;
+    /// Once `next` gave false: whether it was for want of rows. Else a fetch failed or the cursor
+    /// is lost, and rows may be missing; nothing was reported.
+    bool readAll() const { return ended_ && !isLost(); }
 
     /// Fetches the next row; false at the end or on failure.
     bool next();
@@ -49,8 +57,11 @@ public:
 
 private:
     void use(short column, ColumnUse use) const;
+    short live() const; // the number, 0 when it is another statement's
 
     short number_;
+    unsigned long generation_; // of the session's statements
+    bool ended_ = false;
     short singleRows_ = 0;                     // so many rows have been read column by column
     mutable std::array<ColumnUse, 32> uses_{}; // of the columns from 1; any further stay unbound
     std::unique_ptr<BoundRow> bound_;          // null until the columns are bound

@@ -27,6 +27,8 @@ struct State {
     std::array<SQLHSTMT, kLastCursor + 1> statements{};
     std::array<bool, kLastCursor + 1> open{};
 
+    /// Grows whenever statements are forgotten: a number taken before then means another statement.
+    unsigned long generation = 0;
     /// The cursor number of the statement that failed last, 0 once its text was asked for.
     short lastFailedCursor = 0;
     /// Whether statements run with the driver's scan for escape clauses switched off.

@@ -86,7 +86,8 @@ public:
     /// 1 after an `insert` until the list is saved; 0 after loading. Removals do not count.
     int changed() const { return changed_; }
     void setChanged(int flag) { changed_ = flag; }
-    /// False when a failed statement kept records from being read.
+    /// False when a failed statement or fetch kept records from being read: saved, the list would
+    /// replace them.
     bool isComplete() const { return complete_; }
 
 private:

@@ -23,7 +23,7 @@ bool loadIntLithology(IGDList& list, const IGDLoad& from)
         const std::string descr = rows.text(3), abr = rows.text(4);
         list.insert(new IntLithZone(top, base, rows.integer(5), descr.c_str(), abr.c_str()));
     }
-    return true;
+    return rows.readAll();
 }
 
 bool saveIntLithology(const IGDList& list, char unit, int negate)

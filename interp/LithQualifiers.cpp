@@ -62,7 +62,7 @@ bool loadLithQualifiers(IGDList& list, const IGDLoad& from)
             return false;
         list.insert(qualifier.release());
     }
-    return true;
+    return rows.readAll();
 }
 
 bool saveLithQualifiers(const IGDList& list, char unit, int negate)

@@ -104,5 +104,5 @@ bool loadEnvironments(IGDList& list, const IGDLoad& from)
         takeNames(*environment, schemeOf(*environment, schemes));
         list.insert(environment.release());
     }
-    return true;
+    return rows.readAll();
 }

@@ -27,7 +27,7 @@ bool loadDepths(IGDList& list, const char* textColumn, const char* table, MakeRe
         const float depth = depthFromMetres(list, rows.number(1));
         list.insert(makeRecord(wellCode, depth, rows.text(2).c_str()));
     }
-    return true;
+    return rows.readAll();
 }
 
 } // namespace

@@ -98,5 +98,5 @@ bool loadZones(IGDList& list, const IGDLoad& from)
         takeFromSamples(*zone, list, from.well);
         list.insert(zone.release());
     }
-    return true;
+    return rows.readAll();
 }

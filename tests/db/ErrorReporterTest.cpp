@@ -2,6 +2,7 @@
 #include "db/ErrorReporter.h"
 
 #include "db/Connection.h"
+#include "db/Cursor.h"
 #include "db/Session.h"
 #include "tests/db/Kind.h"
 #include "tests/support/MessageLog.h"
@@ -78,6 +79,26 @@ TEST_F(ErrorReporter, RestoresALostConnection)
             std::vector<std::string>(setsDateFormat() ? 1 : 0, kDateFormat), log.statements());
         EXPECT_EQ(1, dbExecute("SELECT 1")) << "all cursors are forgotten";
     }
+}
+
+TEST_F(ErrorReporter, LeavesNothingToAnOpenCursor)
+{
+    constexpr const char* kRows = "SELECT 1 UNION SELECT 2";
+    messages.clear();
+    {
+        Cursor outer(kRows);
+        ASSERT_TRUE(outer.next());
+        reportError(kLost);
+        Cursor other(kRows); // has the number that the lost one had
+        ASSERT_EQ(outer.number(), other.number());
+        EXPECT_TRUE(other.next());
+        EXPECT_FALSE(outer.next()) << "a row of another statement";
+        EXPECT_EQ(0, outer.integer(1));
+        EXPECT_TRUE(outer.isLost());
+        EXPECT_EQ(0, outer.close());
+        EXPECT_TRUE(other.next()) << "closed by another's end";
+    }
+    EXPECT_EQ(2u, messages.texts().size()) << "the loss and the prompt";
 }
 
 void loseTheServer()

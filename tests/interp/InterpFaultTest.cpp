@@ -195,6 +195,14 @@ TEST(InterpFaults, LeaveWhatWasReadAndAreReported)
     }
 }
 
+TEST(InterpFaults, MakeAListIncompleteThatAFetchCutShort)
+{
+    InterpData data;
+    const DriverFault fault(2, "SQLFetch");
+    EXPECT_EQ("1|Interval Lithology|0|0|", loaded<12>(data).substr(0, 25));
+    EXPECT_EQ(0u, data.boxes.texts().size());
+}
+
 TEST(InterpFaults, LeaveTheStoredLithologyWholeWhicheverCallFails)
 {
     const Statements before{"100", "150", "210"}, after{"-150", "-100"};
