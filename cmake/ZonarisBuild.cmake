@@ -9,7 +9,8 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(ODBC REQUIRED IMPORTED_TARGET odbc)
+# Not by pkg-config: users of the installed library find the driver manager by the same name.
+find_package(ODBC REQUIRED)
 
 add_library(zonaris_flags INTERFACE)
 target_include_directories(zonaris_flags INTERFACE "${CMAKE_SOURCE_DIR}")
@@ -34,14 +35,16 @@ function(zonaris_target_name folder out)
   set(${out} "zonaris_${name}" PARENT_SCOPE)
 endfunction()
 
-# zonaris_folder(db USES util platform/zapp PACKAGES PkgConfig::ODBC SOURCES Session.cpp ...)
+# zonaris_folder(db USES util platform/zapp PACKAGES ODBC::ODBC SOURCES Session.cpp ...)
 # One static library for one folder. USES names the folders that its files may include; the
 # includes are checked against this line by tools/check_includes.
 function(zonaris_folder folder)
   cmake_parse_arguments(F "" "" "USES;PACKAGES;SOURCES" ${ARGN})
   zonaris_target_name(${folder} target)
   add_library(${target} STATIC ${F_SOURCES})
-  target_link_libraries(${target} PUBLIC zonaris_flags ${F_PACKAGES})
+  # Our warnings and our source tree are nothing to users of the installed library.
+  target_link_libraries(${target} PUBLIC $<BUILD_INTERFACE:zonaris_flags> ${F_PACKAGES})
+  target_compile_features(${target} PUBLIC cxx_std_20)
   foreach(used IN LISTS F_USES)
     zonaris_target_name(${used} lower)
     target_link_libraries(${target} PUBLIC ${lower})
