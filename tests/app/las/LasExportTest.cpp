@@ -57,8 +57,11 @@ protected:
 // The rows of a section as `TestDatabase::rows` gives those of a table.
 std::vector<std::string> rowsOf(const LasFile& file, const char* title)
 {
+    const LasSection* section = file.section(title);
+    if (!section)
+        return {"no section"};
     std::vector<std::string> texts;
-    for (const LasRow& row : file.section(title)->rows) {
+    for (const LasRow& row : section->rows) {
         std::string& text = texts.emplace_back();
         for (const std::string& field : row.fields)
             text += (&field == &row.fields.front() ? "" : "|") + field;
