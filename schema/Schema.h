@@ -7,7 +7,7 @@
 // The tables of the embedded database, from the SQL files of this folder.
 
 /// Version of the tables, as SCHEMA_INFO.version holds it in a database made from them.
-inline constexpr int kSchemaVersion = 1;
+inline constexpr int kSchemaVersion = 2;
 
 /// The statements that turn an empty database into one with every table, index, view and trigger,
 /// in the order in which they have to run. Each is whole, a trigger with its body, and comes

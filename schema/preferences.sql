@@ -2,10 +2,11 @@
 
 -- One row. A program that finds another version than its own can say so before it reads on.
 CREATE TABLE SCHEMA_INFO (
-    version         INTEGER NOT NULL
+    version         INTEGER NOT NULL,
+    made_with       VARCHAR(40)         -- program that made the tables, or converted them last
 );
 
-INSERT INTO SCHEMA_INFO (version) VALUES (1);
+INSERT INTO SCHEMA_INFO (version) VALUES (2);
 
 -- Settings of a user: short keys, values written as text.
 CREATE TABLE PREF_USER (

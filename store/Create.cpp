@@ -6,7 +6,7 @@
 #include "store/Statement.h"
 #include "store/Transaction.h"
 
-std::string createDatabase()
+std::string createDatabase(const FillDatabase& fill)
 {
     if (tableExists("WELLS"))
         return "The database has tables already.";
@@ -16,5 +16,8 @@ std::string createDatabase()
         if (!statement.execute())
             return statement.sql() + ": " + statement.error();
     }
+    const std::string problem = fill ? fill() : std::string();
+    if (!problem.empty())
+        return problem;
     return transaction.commit() ? std::string() : transaction.error();
 }

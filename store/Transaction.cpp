@@ -2,6 +2,7 @@
 #include "store/Transaction.h"
 
 #include "db/Connection.h"
+#include "db/Literals.h"
 #include "db/Odbc.h"
 #include "db/Session.h"
 #include "store/Statement.h"
@@ -10,6 +11,16 @@ Transaction::~Transaction()
 {
     if (open_)
         dbRollback();
+}
+
+bool Transaction::lock()
+{
+    // The first statement that may write takes the lock, whether it changes rows or not.
+    Statement statement("UPDATE " + sql::table("WELLS") + " SET well_code=well_code WHERE 1=0");
+    const bool locked = statement.execute();
+    if (!locked)
+        error_ = statement.error();
+    return locked;
 }
 
 bool Transaction::commit()

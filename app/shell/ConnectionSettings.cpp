@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -30,11 +31,74 @@ std::size_t valueEnd(std::string_view text, std::size_t start)
     return std::min(text.find(';', start), text.size());
 }
 
+constexpr const char* kHidden = "***";
+
+constexpr std::string_view kSecretWords[] = {
+    "PWD", "Password", "Passwd", "NewPassword", "Token", "AccessToken", "Secret"};
+
 bool isSecret(std::string_view keyword)
 {
-    keyword = trimmedLeft(trimmedRight(keyword));
-    return compareIgnoringCase(keyword, "PWD") == 0
-        || compareIgnoringCase(keyword, "Password") == 0;
+    keyword = trimmedRight(keyword);
+    const std::size_t border = keyword.find_last_of(" \t;,({[\"'");
+    keyword.remove_prefix(border == std::string_view::npos ? 0 : border + 1);
+    return std::ranges::any_of(kSecretWords,
+        [&](std::string_view word) { return compareIgnoringCase(keyword, word) == 0; });
+}
+
+// Where the secret in one part of a connection string begins, behind its equals sign; npos without
+// one. A forgotten semicolon puts it into the value of another keyword.
+std::size_t secretStart(std::string_view part)
+{
+    for (std::size_t i = part.find('='); i != std::string_view::npos; i = part.find('=', i + 1))
+        if (isSecret(part.substr(0, i)))
+            return i + 1;
+    return std::string_view::npos;
+}
+
+struct Part {
+    std::string_view text; // without the semicolon behind it
+    std::size_t secret;    // where its secret begins, or npos
+    bool ends;             // with a semicolon
+};
+
+// A piece without equals sign belongs to a secret before it, which held a bare semicolon.
+std::vector<Part> partsOf(std::string_view text)
+{
+    std::vector<Part> parts;
+    bool behindSecret = false;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t equals = text.find('=', at);
+        std::size_t end = std::min(text.find(';', at), text.size());
+        const bool isPair = equals < end;
+        if (isPair)
+            end = valueEnd(text, equals + 1);
+        const std::string_view part = text.substr(at, end - at);
+        parts.push_back({part, isPair || !behindSecret ? secretStart(part) : 0, end < text.size()});
+        behindSecret = parts.back().secret != std::string_view::npos;
+        at = end + 1;
+    }
+    return parts;
+}
+
+std::string withoutBraces(std::string_view value)
+{
+    if (!value.starts_with('{'))
+        return std::string(value);
+    std::string plain;
+    for (std::size_t i = 1; i + 1 < value.size(); ++i) {
+        plain += value[i];
+        i += value[i] == '}' && value[i + 1] == '}';
+    }
+    return plain;
+}
+
+void replaceAll(std::string& text, const std::string& part, std::string_view by)
+{
+    if (part.empty())
+        return;
+    for (std::size_t at = text.find(part); at != std::string::npos;
+         at = text.find(part, at + by.size()))
+        text.replace(at, part.size(), by);
 }
 
 // A value in braces may hold what else ends a value; a closing brace in it stands twice.
@@ -59,20 +123,23 @@ std::string embeddedConnectString(
 
 std::string withoutSecrets(const std::string& connectString)
 {
-    const std::string_view text = connectString;
     std::string shown;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        const std::size_t equals = text.find('=', at);
-        if (equals == std::string_view::npos)
-            break;
-        const std::size_t end = valueEnd(text, equals + 1);
-        const bool secret = isSecret(text.substr(at, equals - at));
-        shown += secret ? std::string(text.substr(at, equals + 1 - at)) + "***"
-                        : std::string(text.substr(at, end - at));
-        if (end < text.size())
-            shown += ';';
-        at = end + 1;
+    for (const Part& part : partsOf(connectString)) {
+        shown += part.text.substr(0, part.secret);
+        shown += part.secret == std::string_view::npos ? "" : kHidden;
+        shown += part.ends ? ";" : "";
     }
-    return at < text.size() ? shown + std::string(text.substr(at)) : shown;
+    return shown;
+}
+
+std::string withoutSecretsOf(const std::string& connectString, std::string message)
+{
+    for (const Part& part : partsOf(connectString)) {
+        if (part.secret == std::string_view::npos)
+            continue;
+        const std::string_view secret = trimmedLeft(trimmedRight(part.text.substr(part.secret)));
+        replaceAll(message, std::string(secret), kHidden);
+        replaceAll(message, withoutBraces(secret), kHidden);
+    }
+    return withoutSecrets(message);
 }

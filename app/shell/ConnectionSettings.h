@@ -22,5 +22,10 @@ enum class FileAccess { Open, Create };
 std::string embeddedConnectString(
     const std::string& driver, const std::string& file, int kind, FileAccess access);
 
-/// `connectString` as it may be shown and logged: the values of PWD= and Password= as "***".
+/// `connectString` as it may be shown and logged: the values of PWD=, Password= and their like as
+/// "***", wherever they stand.
 std::string withoutSecrets(const std::string& connectString);
+
+/// `message` of a database or driver, without the secrets of the connection string that it may
+/// repeat in words of its own.
+std::string withoutSecretsOf(const std::string& connectString, std::string message);

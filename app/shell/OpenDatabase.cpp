@@ -1,7 +1,9 @@
 // app/shell/OpenDatabase.cpp
 #include "app/shell/OpenDatabase.h"
 
-#include "app/shell/DriverLibrary.h"
+#include "app/shell/ConnectFailure.h"
+#include "app/shell/EmbeddedDatabase.h"
+#include "app/shell/Migration.h"
 #include "db/Connection.h"
 #include "db/CurrentUser.h"
 #include "db/Cursor.h"
@@ -10,7 +12,6 @@
 #include "db/Session.h"
 #include "dict/EventLabels.h"
 #include "schema/Schema.h"
-#include "store/Create.h"
 #include "well/Sample.h"
 
 #include <filesystem>
@@ -44,28 +45,14 @@ void applySettings(const ConnectionSettings& settings)
     currentUserId = 0;
 }
 
-std::string reason()
-{
-    return dbConnectError().empty() ? std::string("The driver gave no reason.") : dbConnectError();
-}
-
-std::string connectString(const std::string& text)
-{
-    if (dbConnect(text.c_str()) == 1)
-        return {};
-    dbDisconnect();
-    return "Could not connect with " + withoutSecrets(text) + "\n" + withoutSecrets(reason());
-}
-
-std::string connectFile(const ConnectionSettings& settings, FileAccess access)
+std::string connect(const ConnectionSettings& settings, FileAccess access)
 {
     std::string error;
-    const std::string driver = driverLibrary(&error);
-    if (driver.empty())
+    const std::string text = connectStringOf(settings, access, &error);
+    if (text.empty() || dbConnect(text.c_str()) == 1)
         return error;
-    const std::string text =
-        embeddedConnectString(driver, settings.databaseFile, settings.kind, access);
-    return connectString(text);
+    dbDisconnect();
+    return connectFailure(text, dbConnectError());
 }
 
 std::string setDateFormat(int kind)
@@ -90,17 +77,23 @@ std::string findUser(const std::string& abbreviation)
     return {};
 }
 
-std::string versionProblem(const std::string& file)
+// Whether the tables of an embedded database are of this program's version; older ones are made so.
+std::string settleVersion(const ConnectionSettings& settings, std::string* notice)
 {
+    const std::string file = embeddedFile(settings);
+    if (file.empty())
+        return {};
     if (!tableExists("WELLS"))
         return file + " holds no tables of this program. Make a database with: zonaris create FILE";
-    Cursor rows("SELECT max(version) FROM " + sql::table("SCHEMA_INFO"));
-    const long version = rows.next() ? rows.integer(1) : 0;
-    if (version <= kSchemaVersion)
-        return {};
-    return file + " has tables of version " + std::to_string(version)
-        + "; this program knows versions up to " + std::to_string(kSchemaVersion)
-        + ". Use a newer program.";
+    long version = 0;
+    const std::string error = readSchemaVersion(&version);
+    if (!error.empty())
+        return file + ": " + error;
+    if (version > kSchemaVersion)
+        return file + " has tables of version " + std::to_string(version)
+            + "; this program knows versions up to " + std::to_string(kSchemaVersion)
+            + ". Use a newer program.";
+    return version < kSchemaVersion ? migrateDatabase(settings, notice) : std::string();
 }
 
 std::string missingFileProblem(const std::string& file)
@@ -119,11 +112,9 @@ void loadUserSettings()
     Sample::LoadSplitSwitches();
 }
 
-std::string afterConnect(const ConnectionSettings& settings)
+std::string beginWork(const ConnectionSettings& settings, std::string* notice)
 {
-    std::string error = setDateFormat(settings.kind);
-    if (error.empty() && !settings.databaseFile.empty())
-        error = versionProblem(settings.databaseFile);
+    std::string error = settleVersion(settings, notice);
     if (error.empty())
         error = findUser(settings.user);
     if (error.empty())
@@ -131,6 +122,25 @@ std::string afterConnect(const ConnectionSettings& settings)
     else
         dbDisconnect();
     return error;
+}
+
+std::string connectAndSet(const ConnectionSettings& settings, FileAccess access)
+{
+    applySettings(settings);
+    std::string error = connect(settings, access);
+    if (error.empty())
+        error = setDateFormat(settings.kind);
+    if (!error.empty())
+        dbDisconnect();
+    return error;
+}
+
+std::string createTables(const FillDatabase& fill)
+{
+    return createDatabase([&] {
+        const std::string error = stampSchema(kSchemaVersion);
+        return error.empty() && fill ? fill() : error;
+    });
 }
 
 void removeFile(const std::string& file)
@@ -142,20 +152,22 @@ void removeFile(const std::string& file)
 
 } // namespace
 
-std::string openDatabase(const ConnectionSettings& settings)
+std::string connectDatabase(const ConnectionSettings& settings)
 {
     std::string error = fieldProblem(settings);
     if (error.empty() && !settings.databaseFile.empty())
         error = missingFileProblem(settings.databaseFile);
-    if (!error.empty())
-        return error;
-    applySettings(settings);
-    error = settings.databaseFile.empty() ? connectString(settings.connectString)
-                                          : connectFile(settings, FileAccess::Open);
-    return error.empty() ? afterConnect(settings) : error;
+    return error.empty() ? connectAndSet(settings, FileAccess::Open) : error;
 }
 
-std::string createDatabaseFile(const ConnectionSettings& settings)
+std::string openDatabase(const ConnectionSettings& settings, std::string* notice)
+{
+    std::string unread;
+    const std::string error = connectDatabase(settings);
+    return error.empty() ? beginWork(settings, notice ? notice : &unread) : error;
+}
+
+std::string createDatabaseFile(const ConnectionSettings& settings, const FillDatabase& fill)
 {
     if (settings.databaseFile.empty())
         return "Name the database file to create.";
@@ -165,12 +177,12 @@ std::string createDatabaseFile(const ConnectionSettings& settings)
     std::error_code ignored;
     if (fs::exists(fs::symlink_status(settings.databaseFile, ignored)))
         return settings.databaseFile + " is there already; it was left as it is.";
-    applySettings(settings);
-    error = connectFile(settings, FileAccess::Create);
+    error = connectAndSet(settings, FileAccess::Create);
     if (error.empty())
-        error = createDatabase();
+        error = createTables(fill);
+    std::string notice;
     if (error.empty())
-        error = afterConnect(settings);
+        error = beginWork(settings, &notice);
     if (error.empty())
         return {};
     dbDisconnect();

@@ -227,7 +227,7 @@ TEST(NewDatabase, HasAllTablesOrNone)
         EXPECT_EQ("0", db.value("SELECT count(*) FROM sqlite_master"));
     }
     EXPECT_EQ("", createDatabase());
-    EXPECT_EQ("1", db.value("SELECT max(version) FROM SCHEMA_INFO"));
+    EXPECT_EQ("2", db.value("SELECT max(version) FROM SCHEMA_INFO"));
     EXPECT_EQ("The database has tables already.", createDatabase());
 }
 
