@@ -80,15 +80,15 @@ bool LithologyWriter::number(LithologyEntry& entry)
     return true;
 }
 
-Outcome LithologyWriter::put(LithologyEntry& entry, const std::optional<Value>& abr)
+Outcome LithologyWriter::put(LithologyEntry& entry, const std::optional<Value>& abr, char kind)
 {
-    Row row{abr, abr};
-    row.resize(std::size(kLithology));
+    const auto given = kind ? std::optional(Value(std::string(1, kind))) : std::optional<Value>();
+    Row row{abr, abr, std::nullopt, std::nullopt, std::nullopt, given};
     if (!entry.isStored) {
         if (!number(entry))
             return Outcome::Failed;
         const Value name = textValue(entry.name);
-        row = {abr, abr, Value(entry.id), name, name, textValue("N")};
+        row = {abr, abr, Value(entry.id), name, name, given.value_or(textValue("N"))};
     }
     const Outcome outcome = putRow(table_, writing_, {Value(entry.id)}, row);
     return outcome == Outcome::Failed ? failed(table_.error()) : outcome;

@@ -16,7 +16,7 @@ struct LithologyEntry {
     bool isStored = false;
 };
 
-/// Brings main lithologies in (LITHDESC), known by their descriptions, letter case apart. Keys up
+/// Brings lithologies in (LITHDESC), known by their descriptions, letter case apart. Keys up
 /// to 999 are reserved; a vocabulary's own key is kept where it is above and free.
 class LithologyWriter {
 public:
@@ -30,8 +30,9 @@ public:
     /// Announces a rock that is not there: found from now on and stored by `put`.
     LithologyEntry* add(const std::string& name, long wanted);
 
-    /// `abr`: at most 9 bytes; not set: left as it is.
-    Outcome put(LithologyEntry& entry, const std::optional<Value>& abr);
+    /// `abr`: at most 9 bytes; not set: left as it is. `kind`: N main lithology, A accessory, Q
+    /// qualifier, S stringer; 0: left as it is, N for a new one.
+    Outcome put(LithologyEntry& entry, const std::optional<Value>& abr, char kind = 0);
 
     const std::string& error() const { return error_; }
 

@@ -20,16 +20,25 @@ std::string inCapitals(CellReader& cells, int column, const std::string& mnemoni
     return capitals;
 }
 
+char disciplineLetter(std::string_view cell)
+{
+    const std::string letter = upperCased(cell);
+    const bool isKnown =
+        letter.size() == 1 && kDisciplines.find(letter[0]) != std::string_view::npos;
+    return isKnown ? letter[0] : char{0};
+}
+
 Cell readDiscipline(CellReader& cells, int column, char* out)
 {
-    const std::string letter = upperCased(cells.raw(column));
-    if (letter.empty())
+    const std::string_view cell = cells.raw(column);
+    if (cell.empty())
         return cells.file().has(column) ? Cell::Empty : Cell::Missing;
-    if (letter.size() != 1 || kDisciplines.find(letter[0]) == std::string_view::npos) {
+    const char letter = disciplineLetter(cell);
+    if (!letter) {
         cells.adjust(column, "unknown discipline (M, N, P or A); not taken");
         return Cell::Bad;
     }
-    *out = letter[0];
+    *out = letter;
     return Cell::Good;
 }
 

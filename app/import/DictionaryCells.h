@@ -5,12 +5,16 @@
 #include "store/CategoryWriter.h"
 
 #include <string>
+#include <string_view>
 
 // Cells that the files of the dictionaries have in common.
 
 /// The mnemonic of a category in capitals, as the system compares and searches it; told when the
 /// file writes it otherwise.
 std::string inCapitals(CellReader& cells, int column, const std::string& mnemonic);
+
+/// The letter of a discipline in capitals: M, N, P or A; 0 for anything else.
+char disciplineLetter(std::string_view cell);
 
 /// A discipline letter: M, N, P or A. Anything else is told and not taken.
 Cell readDiscipline(CellReader& cells, int column, char* out);

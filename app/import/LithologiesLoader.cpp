@@ -28,6 +28,7 @@ public:
         const bool hasName = cells.key(cell::Name, &name) == Cell::Good;
         const Cell state = cells.text(cell::Abr, &abr);
         abr_ = givenValue(state, textValue(abr));
+        readKind(cells);
         const RowPlace place{&cells.file(), cells.line()};
         const RowPlace* first = hasName ? rows_.before(upperCased(name), place) : nullptr;
         if (first)
@@ -42,13 +43,21 @@ public:
 
     Outcome store() override
     {
-        const Outcome outcome = writer_.put(*entry_, abr_);
+        const Outcome outcome = writer_.put(*entry_, abr_, kind_);
         if (outcome == Outcome::Failed)
             error_ = writer_.error();
         return outcome;
     }
 
 private:
+    void readKind(CellReader& cells)
+    {
+        const std::string_view cell = cells.raw(cell::Kind);
+        kind_ = lithologyKind(cell);
+        if (!cell.empty() && !kind_)
+            cells.refuse(cell::Kind, "neither main, accessory, qualifier nor stringer");
+    }
+
     void announce(CellReader& cells, const std::string& name)
     {
         const std::string number(cells.raw(cell::Code));
@@ -66,6 +75,7 @@ private:
     FirstRows rows_;
     LithologyEntry* entry_ = nullptr;
     std::optional<Value> abr_;
+    char kind_ = 0;
 };
 
 } // namespace

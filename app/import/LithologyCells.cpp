@@ -1,7 +1,30 @@
 // app/import/LithologyCells.cpp
 #include "app/import/LithologyCells.h"
 
+#include "util/TextUtil.h"
+
+#include <algorithm>
 #include <charconv>
+
+namespace {
+
+struct Kind {
+    char letter;
+    std::string_view word;
+};
+constexpr Kind kKinds[] = {
+    {'N', "main"}, {'A', "accessory"}, {'Q', "qualifier"}, {'S', "stringer"}};
+
+} // namespace
+
+char lithologyKind(std::string_view cell)
+{
+    const auto kind = std::ranges::find_if(kKinds, [=](const Kind& known) {
+        return compareIgnoringCase(cell, known.word) == 0
+            || compareIgnoringCase(cell, {&known.letter, 1}) == 0;
+    });
+    return kind == std::end(kKinds) ? char{0} : kind->letter;
+}
 
 long lithologyCode(std::string_view cell)
 {

@@ -33,6 +33,7 @@ protected:
 
 std::unique_ptr<RowLoader> makeWellsLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeSamplesLoader(ImportContext& context);
+std::unique_ptr<RowLoader> makeDisciplinesLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeCategoriesLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeTaxaLoader(ImportContext& context);
 std::unique_ptr<RowLoader> makeSynonymyLoader(ImportContext& context);

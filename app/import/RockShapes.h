@@ -8,11 +8,12 @@
 // The columns of the files of rocks and of environments.
 
 namespace lithologies {
-enum { Code, Name, Abr, Count };
+enum { Code, Name, Abr, Kind, Count };
 inline constexpr ColumnShape kColumns[] = {
     {Code, "lith_id lith_code code", CellKind::Id, BadCell::RefusesRow},
     {Name, "descr lithology name", CellKind::Key, BadCell::RefusesRow, true, 81},
     {Abr, "abr abbreviation", CellKind::Text, BadCell::IsLeftOut, false, 9},
+    {Kind, "kind cmp", CellKind::Text, BadCell::RefusesRow},
 };
 static_assert(std::size(kColumns) == Count);
 } // namespace lithologies

@@ -57,6 +57,14 @@ constexpr ColumnShape kSamples[] = {
 };
 static_assert(std::size(kSamples) == samples::Count);
 
+constexpr ColumnShape kDisciplines[] = {
+    {disciplines::Letter, "disc_id discipline", CellKind::Text, Refuses, true},
+    {disciplines::Name, "disc_name name", CellKind::Text, LeftOut, true, 30},
+    {disciplines::Abr, "disc_abr abr", CellKind::Text, LeftOut, false, 5},
+    {disciplines::Adjective, "disc_adj adjective", CellKind::Text, LeftOut, false, 30},
+};
+static_assert(std::size(kDisciplines) == disciplines::Count);
+
 constexpr ColumnShape kCategories[] = {
     {categories::Mnemonic, "cat_mnem category mnemonic", CellKind::Key, Refuses, true, 5},
     {categories::Discipline, "disc_id discipline", CellKind::Text, LeftOut},
@@ -133,6 +141,7 @@ template <std::size_t N> constexpr bool inOrder(const ColumnShape (&columns)[N])
     return true;
 }
 static_assert(inOrder(kWells) && inOrder(kSamples));
+static_assert(inOrder(kDisciplines));
 static_assert(inOrder(kCategories) && inOrder(kTaxa) && inOrder(kSynonymy));
 static_assert(inOrder(kNameVariants) && inOrder(kSchemes) && inOrder(kLevels));
 static_assert(inOrder(analysts::kColumns) && inOrder(abundance_codes::kColumns));
@@ -152,6 +161,7 @@ constexpr FileShape kShapes[] = {
     {"wells", kWells, makeWellsLoader},
     {"sections", kWells, makeWellsLoader, true},
     {"samples", kSamples, makeSamplesLoader},
+    {"disciplines", kDisciplines, makeDisciplinesLoader},
     {"categories", kCategories, makeCategoriesLoader},
     {"taxa", kTaxa, makeTaxaLoader},
     {"synonymy", kSynonymy, makeSynonymyLoader},

@@ -86,6 +86,10 @@ namespace samples {
 enum { WellCode, Id, Top, Base, Type, Label, Units, GridX, GridY, Count };
 }
 
+namespace disciplines {
+enum { Letter, Name, Abr, Adjective, Count };
+}
+
 namespace categories {
 enum { Mnemonic, Discipline, Name, Count };
 }
