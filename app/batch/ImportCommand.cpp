@@ -11,6 +11,7 @@ namespace {
 
 struct Values {
     std::vector<std::string> inputs;
+    std::string map;
     bool dryRun = false;
     bool strict = false;
 };
@@ -20,6 +21,7 @@ int run(const Values& values)
     ImportOptions what;
     what.inputs.assign(values.inputs.begin(), values.inputs.end());
     what.dryRun = values.dryRun;
+    what.map = values.map;
     ImportResult result;
     {
         ImportConsole console;
@@ -55,6 +57,11 @@ void addImport(CLI::App& app, BatchOptions* options)
         [=] { return run(*values); });
     import->add_option("INPUT", values->inputs, "Folders that hold the files, or the files")
         ->required();
+    import
+        ->add_option("--map", values->map,
+            "Names the columns of files that import does not know: a CSV file with the columns "
+            "file, kind, column, from, value, units (docs/import.md, examples/maps)")
+        ->type_name("FILE");
     import->add_flag("--dry-run", values->dryRun, "Check and count, but store nothing");
     import->add_flag("--strict", values->strict, "End with exit status 1 when a row was refused");
 }

@@ -282,6 +282,13 @@ Cell CellReader::sampleType(int column, std::string* out)
 
 Cell CellReader::depth(int column, double* out, char* units)
 {
-    *units = file_.column(column).units;
-    return number(column, out);
+    const MappedColumn& mapped = file_.column(column);
+    *units = mapped.units;
+    const Cell state = number(column, out);
+    if (state != Cell::Good)
+        return state;
+    *out /= mapped.divisor;
+    if (mapped.direction && mapped.direction != (wellType_ == 'O' ? 'U' : 'D'))
+        *out = 0 - *out; // no minus zero
+    return state;
 }

@@ -54,7 +54,10 @@ public:
     Cell units(int column, char* out);
     /// One of the five codes; those of other programs are translated.
     Cell sampleType(int column, std::string* out);
-    /// Metres or feet as the file has it. `*units` is what the column's name says, or 0.
+    /// The type of the well that the row belongs to: outcrops count depths upwards.
+    void standInWell(char type) { wellType_ = type; }
+    /// Metres or feet as the file has it, or as a map converts them, in the direction of the well.
+    /// `*units` is what the column's name or the map says, or 0.
     Cell depth(int column, double* out, char* units);
 
     /// The cell as the file has it, white space around it dropped; empty when there is none.
@@ -75,4 +78,5 @@ private:
     const InputFile& file_;
     const CsvRow& row_;
     FileReport& report_;
+    char wellType_ = 'W';
 };

@@ -2,6 +2,7 @@
 #include "app/import/Importer.h"
 
 #include "app/import/Cells.h"
+#include "app/import/ColumnMap.h"
 #include "app/import/ImportContext.h"
 #include "app/import/Inputs.h"
 #include "app/import/Loader.h"
@@ -11,11 +12,49 @@
 #include <map>
 #include <memory>
 #include <numeric>
+#include <unordered_set>
 
 namespace {
 
 constexpr long kProgressRows = 1000;
 constexpr const char* kCancelled = "Cancelled; nothing was stored.";
+
+using RowTexts = std::unordered_set<std::string>;
+
+/// Tells the rows apart by what fills their columns, where a file is to be taken so.
+class RowsOnce {
+public:
+    /// `seen` are those of the files before.
+    RowsOnce(const InputFile& file, RowTexts& seen)
+        : file_(file)
+        , seen_(seen)
+    {
+    }
+    bool repeats(const CsvRow& row)
+    {
+        if (!file_.takesRowsOnce)
+            return false;
+        std::string text;
+        for (const MappedColumn& column : file_.columns)
+            if (column.field >= 0)
+                text.append(row.fields[static_cast<std::size_t>(column.field)]).append(1, '\0');
+        const bool isNew = seen_.insert(std::move(text)).second;
+        repeated_ += !isNew;
+        return !isNew;
+    }
+    void tell(FileReport& report) const
+    {
+        if (repeated_ > 0)
+            report.note("", "",
+                std::to_string(repeated_)
+                    + " rows repeat others in these columns; each is taken once");
+    }
+
+private:
+    const InputFile& file_;
+    RowTexts& seen_;
+    long repeated_ = 0;
+};
 
 class Import {
 public:
@@ -23,18 +62,19 @@ public:
         : listener_(listener)
         , context_(options.dryRun ? Writing::Check : Writing::Write)
     {
-        inputs_ = findInputs(options.inputs);
+        if (!options.map.empty())
+            map_ = readColumnMap(options.map);
+        inputs_ = findInputs(options.inputs, options.map, map_);
     }
 
     ImportResult run()
     {
-        for (const Issue& issue : inputs_.left)
-            listener_.issue(issue);
-        failure_ = inputs_.failure;
-        if (failure_.empty() && !(readHeaders() && passOver(ImportPhase::Checking)))
-            keepFailure("A file cannot be used; nothing was stored.");
+        if (map_.failure.empty())
+            for (const Issue& issue : inputs_.left)
+                listener_.issue(issue);
+        failure_ = map_.failure.empty() ? inputs_.failure : map_.failure;
         if (failure_.empty())
-            storeAll();
+            checkAndStore();
         return result();
     }
 
@@ -71,9 +111,25 @@ private:
         return !report.failed();
     }
 
-    void storeAll()
+    // Locked from the first look: what was not there when it was checked must not be there when it
+    // is stored.
+    void checkAndStore()
     {
         Transaction transaction;
+        if (context_.writing == Writing::Write && !transaction.lock()) {
+            failure_ = "The database cannot be written to, perhaps because another program does so "
+                       "now. Nothing was stored; try again when that is done: "
+                + transaction.error();
+            return;
+        }
+        if (!(readHeaders() && passOver(ImportPhase::Checking)))
+            keepFailure("A file cannot be used; nothing was stored.");
+        if (failure_.empty())
+            storeAll(transaction);
+    }
+
+    void storeAll(Transaction& transaction)
+    {
         if (!passOver(ImportPhase::Storing))
             keepFailure("A file cannot be read any more; nothing was stored.");
         if (failure_.empty() && context_.writing == Writing::Write && !transaction.commit())
@@ -85,6 +141,7 @@ private:
     bool passOver(ImportPhase phase)
     {
         context_.phase = phase;
+        seen_.clear();
         bool good = true;
         for (const InputFile& file : inputs_.files) {
             FileReport report(file.name, phase == ImportPhase::Checking ? &listener_ : nullptr);
@@ -113,14 +170,19 @@ private:
         CsvReader reader(file.path);
         CsvRow row;
         reader.next(&row); // the header
+        RowsOnce once(file, seen_[{file.map, file.set}]);
         while (reader.next(&row)) {
+            const bool isWhole = completeRow(file, &row);
+            if (isWhole && once.repeats(row))
+                continue;
             report.beginRow(row.line);
-            if (!takeRow(file, row, report))
+            if (!takeRow(file, row, isWhole, report))
                 return false;
             report.endRow();
             if (report.counts.read % kProgressRows == 0 && !goesOn(file, report))
                 return false;
         }
+        once.tell(report);
         if (!reader.failure().empty())
             report.fail(reader.failure());
         return !report.failed();
@@ -136,13 +198,13 @@ private:
     }
 
     // False: `failure_`.
-    bool takeRow(const InputFile& file, const CsvRow& row, FileReport& report)
+    bool takeRow(const InputFile& file, const CsvRow& row, bool isWhole, FileReport& report)
     {
         if (!row.fault.empty()) {
             report.refuse("", "", row.fault);
             return true;
         }
-        if (row.fields.size() != file.fields) {
+        if (!isWhole) {
             report.refuse("", "",
                 std::to_string(row.fields.size()) + " fields instead of "
                     + std::to_string(file.fields));
@@ -191,9 +253,11 @@ private:
 
     ImportListener& listener_;
     ImportContext context_;
+    ColumnMap map_;
     Inputs inputs_;
     std::map<const FileShape*, std::unique_ptr<RowLoader>> loaders_;
     std::map<const InputFile*, FileCounts> counts_;
+    std::map<std::pair<const MapEntry*, std::string>, RowTexts> seen_; // of a kind in one set
     std::string failure_;
 };
 

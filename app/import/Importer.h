@@ -10,6 +10,7 @@
 struct ImportOptions {
     std::vector<std::filesystem::path> inputs; ///< files, and folders whose .csv files are meant
     bool dryRun = false;                       ///< check and count, store nothing
+    std::filesystem::path map = {};            ///< a map of columns; empty: none
 };
 
 struct ImportResult {

@@ -1,6 +1,7 @@
 // app/import/Inputs.h
 #pragma once
 
+#include "app/import/ColumnMap.h"
 #include "app/import/InputFile.h"
 
 #include <filesystem>
@@ -16,5 +17,8 @@ struct Inputs {
 };
 
 /// Looks into the folders among `inputs`, not into folders within them. Files of one folder are a
-/// set. A file that is named twice counts once.
-Inputs findInputs(const std::vector<std::filesystem::path>& inputs);
+/// set. A file that is named twice counts once. A file that `map` knows is what the map says, once
+/// for each kind; `map` must live as long as the result. The file of the map, `mapFile`, is no
+/// input.
+Inputs findInputs(const std::vector<std::filesystem::path>& inputs,
+    const std::filesystem::path& mapFile, const ColumnMap& map);

@@ -58,7 +58,7 @@ void surveyColumns(InputFile* file, FileReport* report)
     CsvRow row;
     reader.next(&row);
     while (reader.next(&row)) {
-        if (!row.fault.empty() || row.fields.size() != file->fields)
+        if (!completeRow(*file, &row))
             continue;
         for (std::size_t i = 0; i < shapes.size(); ++i)
             if (file->columns[i].field >= 0)

@@ -12,7 +12,9 @@ bool readWell(CellReader& cells, int column, ImportContext& context, std::string
         return true;
     if (!context.findWell(*code, well))
         return false;
-    if (!*well)
+    if (*well)
+        cells.standInWell((*well)->type);
+    else
         cells.refuse(
             column, "no such well in the database or among the accepted rows of wells files");
     return true;
