@@ -52,6 +52,23 @@ std::vector<ZoneConflict> conflictsOf(const IGDList& list)
     return conflicts;
 }
 
+std::optional<ZoneConflict> conflictWith(
+    const IGDList& list, IGDBase& record, const IGDBase* exclude)
+{
+    int kind = 0;
+    if (const IGDBase* member = list.findConflict(&record, &kind, exclude))
+        return ZoneConflict{&record, member, kind};
+    Probe probe(list);
+    for (const IGDBase* member : list) {
+        if (member == exclude)
+            continue;
+        kind = probe.conflict(&record, member);
+        if (kind != 0)
+            return ZoneConflict{&record, member, kind};
+    }
+    return std::nullopt;
+}
+
 int isSection(const Well& well) { return well.type == 'O' ? 1 : 0; }
 
 std::string conflictText(const ZoneConflict& conflict, int negate)
