@@ -7,6 +7,9 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
 set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+# What is installed is part of the program unless it says that it is part of the library.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME program)
+set(CMAKE_INSTALL_SO_NO_EXE ON)
 
 find_package(PkgConfig REQUIRED)
 # Not by pkg-config: users of the installed library find the driver manager by the same name.
