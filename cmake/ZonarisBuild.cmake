@@ -79,7 +79,8 @@ function(zonaris_tests folder)
     add_test(NAME "${folder}${T_NAME}:${run}" COMMAND ${program})
     set(environment "ASAN_OPTIONS=exitcode=99:detect_leaks=1"
       "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0"
-      "UBSAN_OPTIONS=print_stacktrace=1" "QT_QPA_PLATFORM=offscreen")
+      "UBSAN_OPTIONS=print_stacktrace=1" "QT_QPA_PLATFORM=offscreen"
+      "ZONARIS_SETTINGS=") # no user's settings, whoever runs the tests
     if(run MATCHES "^kind([0-9])(-prefix)?$")
       list(APPEND environment "ZONARIS_TEST_KIND=${CMAKE_MATCH_1}")
       if(CMAKE_MATCH_2)

@@ -13,6 +13,28 @@ namespace fs = std::filesystem;
 
 std::error_code lastError() { return {errno, std::generic_category()}; }
 
+std::error_code writeAll(int descriptor, std::string_view content)
+{
+    while (!content.empty()) {
+        const ssize_t written = write(descriptor, content.data(), content.size());
+        if (written < 0)
+            return lastError();
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return fsync(descriptor) == 0 ? std::error_code() : lastError();
+}
+
+std::error_code writeNew(const fs::path& file, std::string_view content)
+{
+    constexpr int kMode = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NOFOLLOW;
+    const int descriptor = open(file.c_str(), kMode, 0600);
+    if (descriptor < 0)
+        return lastError();
+    const std::error_code error = writeAll(descriptor, content);
+    close(descriptor);
+    return error;
+}
+
 bool mayWrite(const fs::path& path)
 {
     return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
@@ -46,6 +68,22 @@ std::error_code renameToNew(const fs::path& from, const fs::path& to)
         fs::remove(from, error);
     else if (error != std::errc::file_exists) // a file system without second names
         fs::rename(from, to, error);
+    return error;
+}
+
+std::error_code writePrivately(const fs::path& file, std::string_view content)
+{
+    std::error_code error;
+    const fs::file_status status = fs::symlink_status(file, error);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        return std::make_error_code(std::errc::invalid_argument);
+    const fs::path unfinished = unfinishedName(file);
+    error = writeNew(unfinished, content);
+    if (!error)
+        fs::rename(unfinished, file, error);
+    std::error_code ignored;
+    if (error)
+        fs::remove(unfinished, ignored);
     return error;
 }
 
