@@ -6,12 +6,12 @@
 #include "interp/LoadedDepths.h"
 #include "util/TextUtil.h"
 
-std::unique_ptr<IGDList> interpretationOf(Well& well, int igd_type, char units, int rank)
+std::unique_ptr<IGDList> interpretationOf(
+    Well& well, int igd_type, char units, long interp_id, int rank)
 {
     constexpr long kAnyScheme = 0;
-    constexpr long kDefaultInterpretation = 0;
     auto list = std::make_unique<IGDList>(igd_type, rank ? rank : kWidestRank,
-        rank ? rank : kFinestRank, &well, units, kAnyScheme, kDefaultInterpretation, nullptr);
+        rank ? rank : kFinestRank, &well, units, kAnyScheme, interp_id, nullptr);
     list->removeMissingSamples(&well);
     return list;
 }

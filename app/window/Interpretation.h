@@ -11,9 +11,10 @@
 inline constexpr int kWidestRank = 1;
 inline constexpr int kFinestRank = 8;
 
-/// The records of one type and of one rank (0: all) of the default interpretation, depths in
-/// `units`, without those whose samples the well has not got, which is reported.
-std::unique_ptr<IGDList> interpretationOf(Well& well, int igd_type, char units, int rank = 0);
+/// The records of one type and of one rank (0: all) of an interpretation, depths in `units`,
+/// without those whose samples the well has not got, which is reported.
+std::unique_ptr<IGDList> interpretationOf(
+    Well& well, int igd_type, char units, long interp_id, int rank = 0);
 
 /// The two depths of a record of the well with two decimals, as its samples are shown: those of a
 /// section come negated.
@@ -26,8 +27,6 @@ QString recordDepthText(float depth);
 /// A boundary quality in words; the missing text when it is none.
 QString qualityText(int quality);
 
-/// Rocks by depth, then what is said of them.
-RecordKind lithology();
 /// Palaeoenvironments.
 RecordKind environments();
 /// Casing shoes, seismic markers and picks, each by depth.

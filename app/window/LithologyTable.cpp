@@ -1,4 +1,7 @@
 // app/window/LithologyTable.cpp
+#include "app/window/LithologyTable.h"
+
+#include "app/shell/LithologyEditing.h"
 #include "app/window/Interpretation.h"
 #include "app/window/Texts.h"
 #include "interp/Environment.h"
@@ -14,44 +17,16 @@ const WellColumn kBase{"Base (%1)", "Where the interval ends", Qt::AlignRight};
 
 QString translated(const char* text) { return QCoreApplication::translate("LithologyTable", text); }
 
-QString kindText(char kind)
+template <typename Rock> RecordRow rowOf(const Rock& rock, const LithologyInput& said)
 {
-    switch (kind) {
-    case 'A':
-        return translated("accessory");
-    case 'Q':
-        return translated("qualifier");
-    case 'S':
-        return translated("stringer");
-    default:
-        return translated("text");
-    }
+    return {QString::fromStdString(said.top), QString::fromStdString(said.base),
+        kindText(said.kind), shownOrMissing(rock.abr.view()), shownOrMissing(rock.descr.view())};
 }
 
-template <typename Rock> RecordRow rowOf(const Rock& rock, const Well& well, const QString& kind)
-{
-    return {topText(rock, well), baseText(rock, well), kind, shownOrMissing(rock.abr.view()),
-        shownOrMissing(rock.descr.view())};
-}
-
-std::vector<RecordRow> lithologyRows(Well& well, char units)
+std::vector<RecordRow> environmentRows(Well& well, char units, long interp_id)
 {
     std::vector<RecordRow> rows;
-    const auto rocks = interpretationOf(well, IntLithZone::kType, units);
-    for (const IGDBase* record : *rocks)
-        rows.push_back(rowOf(static_cast<const IntLithZone&>(*record), well, translated("rock")));
-    const auto qualifiers = interpretationOf(well, LithQualifier::kType, units);
-    for (const IGDBase* record : *qualifiers) {
-        const auto& said = static_cast<const LithQualifier&>(*record);
-        rows.push_back(rowOf(said, well, kindText(said.qualType())));
-    }
-    return rows;
-}
-
-std::vector<RecordRow> environmentRows(Well& well, char units)
-{
-    std::vector<RecordRow> rows;
-    const auto list = interpretationOf(well, Environment::kType, units);
+    const auto list = interpretationOf(well, Environment::kType, units, interp_id);
     for (const IGDBase* record : *list)
         rows.push_back(
             {topText(*record, well), baseText(*record, well), shownOrMissing(record->label())});
@@ -60,13 +35,25 @@ std::vector<RecordRow> environmentRows(Well& well, char units)
 
 } // namespace
 
-RecordKind lithology()
+std::vector<WellColumn> lithologyColumns()
 {
-    return {
-        {kTop, kBase, {"Kind", "A rock, or what is said of the rocks at that depth", Qt::AlignLeft},
-            {"Code", "The abbreviation of the rock", Qt::AlignLeft},
-            {"Description", "The rock, or what is said of it", Qt::AlignLeft}},
-        lithologyRows};
+    return {kTop, kBase,
+        {"Kind", "A rock, or what is said of the rocks at that depth", Qt::AlignLeft},
+        {"Code", "The abbreviation of the rock", Qt::AlignLeft},
+        {"Description", "The rock, or what is said of it", Qt::AlignLeft}};
+}
+
+RecordRow lithologyRow(const IGDBase& record, const LithologyEditing& edits, char units)
+{
+    const LithologyInput said = edits.inputOf(record, units);
+    if (said.kind == LithDicTerm::kMainLithology)
+        return rowOf(static_cast<const IntLithZone&>(record), said);
+    return rowOf(static_cast<const LithQualifier&>(record), said);
+}
+
+QString kindText(char kind)
+{
+    return translated(lithologyKindName(kind).data()); // of literals
 }
 
 RecordKind environments()

@@ -14,6 +14,7 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QClipboard>
+#include <QCloseEvent>
 #include <QFileInfo>
 #include <QMenuBar>
 #include <QTabBar>
@@ -44,7 +45,7 @@ MainWindow::MainWindow(ConnectionSettings settings, WindowServices services)
     : settings_(std::move(settings))
     , services_(std::move(services))
     , tabs_(new QTabWidget)
-    , wells_(new WellsPage)
+    , wells_(new WellsPage(services_))
     , taxa_(new TaxaPage)
     , unitsActions_(new QActionGroup(this))
 {
@@ -71,6 +72,8 @@ void MainWindow::makePages()
     setCentralWidget(tabs_);
     connect(wells_, &WellsPage::openAsked, this, &MainWindow::chooseFile);
     connect(wells_, &WellsPage::unitsChosen, this, &MainWindow::setUnits);
+    connect(wells_, &WellsPage::headerFoldAsked, this,
+        [this](bool folded) { header_->setChecked(!folded); });
 }
 
 void MainWindow::makeFileMenu()
@@ -110,9 +113,16 @@ void MainWindow::makeViewMenu()
         action->setData(QVariant::fromValue(units));
         unitsActions_->addAction(action);
     };
-    addUnits(tr("Depths as the &well has them"), DepthUnits::OfWell);
+    addUnits(tr("&Depths as the well has them"), DepthUnits::OfWell);
     addUnits(tr("Depths in &metres"), DepthUnits::Metres);
     addUnits(tr("Depths in &feet"), DepthUnits::Feet);
+    menu->addSeparator();
+    header_ = menu->addAction(tr("&Whole header of the well"));
+    header_->setCheckable(true);
+    header_->setChecked(true);
+    header_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_H));
+    connect(
+        header_, &QAction::toggled, this, [this](bool whole) { wells_->setHeaderFolded(!whole); });
     menu->addSeparator();
     QAction* next = menu->addAction(tr("&Next pane"), this, [this] { cyclePanes(1); });
     next->setShortcut(QKeySequence(Qt::Key_F6));
@@ -121,7 +131,7 @@ void MainWindow::makeViewMenu()
     menu->addSeparator();
     QAction* again = menu->addAction(tr("&Read again"), this, &MainWindow::reload);
     again->setShortcut(QKeySequence(Qt::Key_F5));
-    databaseActions_ << next << back << again;
+    databaseActions_ << header_ << next << back << again;
 }
 
 void MainWindow::makeHelpMenu()
@@ -170,6 +180,10 @@ void MainWindow::setUnits(DepthUnits units)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
+    if (!wells_->mayLeave()) {
+        event->ignore();
+        return;
+    }
     QMainWindow::closeEvent(event);
     if (_app)
         _app->quit();
@@ -219,7 +233,9 @@ void MainWindow::reload()
 void MainWindow::about()
 {
     const std::string text =
-        "Zonaris " ZONARIS_VERSION "\n\nWells, samples and the fossils in them.";
+        "Zonaris " ZONARIS_VERSION "\n\nWells, samples and the fossils in them."
+        "\n\nThe ages of the starter dictionary: International Chronostratigraphic Chart 2024-12,"
+        " International Commission on Stratigraphy, CC BY 4.0";
     zMessage(windowOf(this), text.c_str(), "About Zonaris", MB_OK);
 }
 

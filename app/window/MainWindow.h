@@ -13,8 +13,8 @@ class QTabWidget;
 class TaxaPage;
 class WellsPage;
 
-/// The main window: a page for the wells of the database, a page for its names of taxa. It reads
-/// only. Closing it ends the event loop of the application object.
+/// The main window: a page for the wells of the database, a page for its names of taxa. Closing it
+/// ends the event loop of the application object; before edits are lost, the user is asked.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -60,5 +60,6 @@ private:
     WellsPage* wells_;
     TaxaPage* taxa_;
     QActionGroup* unitsActions_;
+    QAction* header_ = nullptr;       // whether the header of the well is shown whole
     QList<QAction*> databaseActions_; // of use with a database only
 };

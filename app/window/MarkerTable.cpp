@@ -37,20 +37,19 @@ RecordRow pickRow(const SQPick& pick, char units)
         shownOrMissing(pick.inf)};
 }
 
-std::vector<RecordRow> markerRows(Well& well, char units)
+std::vector<RecordRow> markerRows(Well& well, char units, long interp_id)
 {
-    constexpr long kDefaultInterpretation = 0;
     std::vector<RecordRow> rows;
-    const auto casings = interpretationOf(well, Casing::kType, units);
+    const auto casings = interpretationOf(well, Casing::kType, units, interp_id);
     for (const IGDBase* record : *casings)
         rows.push_back(
             markerRow(*record, "casing", static_cast<const Casing&>(*record).diam.view()));
-    const auto seismic = interpretationOf(well, Smark::kType, units);
+    const auto seismic = interpretationOf(well, Smark::kType, units, interp_id);
     for (const IGDBase* record : *seismic)
         rows.push_back(
             markerRow(*record, "seismic marker", static_cast<const Smark&>(*record).colour.view()));
     SQPickList picks;
-    loadPicks(picks, well, kDefaultInterpretation); // what fails is reported
+    loadPicks(picks, well, interp_id); // what fails is reported
     for (const SQPick* pick : picks)
         rows.push_back(pickRow(*pick, units));
     return rows;

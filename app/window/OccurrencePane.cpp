@@ -41,7 +41,7 @@ OccurrencePane::OccurrencePane(QWidget* parent)
     : WellView(parent)
     , disciplines_(makeCombo("occurrenceDiscipline", tr("Discipline")))
     , analysts_(makeCombo("occurrenceAnalyst", tr("Analyst")))
-    , allSamples_(new QCheckBox(tr("Samples &not examined too")))
+    , allSamples_(new QCheckBox(tr("Samples not e&xamined too")))
     , count_(new QLabel)
     , table_(new FrozenTable(&model_, OccurrenceModel::kSampleColumns))
 {

@@ -19,7 +19,7 @@ ReadingBar::ReadingBar(QWidget* parent)
 {
     auto* cancel = new QPushButton(tr("Cancel"));
     cancel->setObjectName(QStringLiteral("cancelReading"));
-    cancel->setToolTip(tr("Leave off; what is loaded stays"));
+    cancel->setToolTip(tr("Leave off (Esc); what is loaded stays"));
     next_->setObjectName(QStringLiteral("readingNext"));
     bar_->setAccessibleName(tr("Loading the well"));
     auto* line = new QHBoxLayout(this);

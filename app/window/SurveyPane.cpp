@@ -2,6 +2,7 @@
 #include "app/window/SurveyPane.h"
 
 #include "app/shell/DepthModel.h"
+#include "app/shell/TypedDepth.h"
 #include "app/window/DepthUnits.h"
 #include "app/window/WellTables.h"
 #include "db/Units.h"
@@ -11,8 +12,6 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include <cmath>
-
 namespace {
 
 constexpr TableWords kWords{
@@ -20,20 +19,12 @@ constexpr TableWords kWords{
 constexpr int kLeastPoints = 2; // for a conversion
 constexpr int kFieldEms = 10;   // width of a field
 
-std::optional<float> depthIn(QString text)
-{
-    bool isNumber = false;
-    const float depth =
-        text.trimmed().replace(QLatin1Char(','), QLatin1Char('.')).toFloat(&isNumber);
-    return isNumber && std::isfinite(depth) ? std::optional(depth) : std::nullopt;
-}
-
 } // namespace
 
 SurveyPane::SurveyPane()
     : TablePane(surveyTable(), kWords)
     , line_(new QHBoxLayout)
-    , md_(addField(tr("&Measured depth"), "measuredDepth", DepthAxis::Measured))
+    , md_(addField(tr("Meas&ured depth"), "measuredDepth", DepthAxis::Measured))
     , tvd_(addField(tr("&True vertical depth"), "verticalDepth", DepthAxis::Vertical))
     , note_(new QLabel)
 {
@@ -84,7 +75,7 @@ QLineEdit* SurveyPane::addField(const QString& caption, const char* object, Dept
 
 void SurveyPane::ask(DepthAxis axis, const QString& text)
 {
-    const std::optional<float> given = depthIn(text);
+    const std::optional<float> given = typedDepth(text.toStdString());
     question_ = given ? std::optional(Question{axis, toMetres(*given, units_)}) : std::nullopt;
     if (!question_)
         field(axis == DepthAxis::Measured ? DepthAxis::Vertical : DepthAxis::Measured).clear();

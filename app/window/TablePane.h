@@ -33,6 +33,7 @@ public:
 protected:
     /// The line above the table goes first.
     QVBoxLayout& lines() const { return *lines_; }
+    QTableView& table() const { return *table_; }
 
 private:
     void fit();

@@ -7,13 +7,16 @@
 
 #include <QEvent>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int kColumns = 3;    // of fields beside each other
+constexpr int kArrowGap = 6;   // pixels before the title
 constexpr int kMostLines = 18; // of text, before the panel scrolls
 
 } // namespace
@@ -43,10 +46,21 @@ void WellHeaderPanel::showWell(const Well* well, char units)
     setFields(std::move(fields));
 }
 
+void WellHeaderPanel::setFolded(bool folded)
+{
+    folded_ = folded;
+    arrow_->setArrowType(folded ? Qt::RightArrow : Qt::DownArrow);
+    for (QLabel* label : widget()->findChildren<QLabel*>())
+        label->setVisible(label == title_ || !folded);
+}
+
 int WellHeaderPanel::heightForWidth(int width) const
 {
     const int frame = 2 * frameWidth();
-    const int wanted = widget()->heightForWidth(width - frame) + frame;
+    // Folded, nothing wraps, and the height is the same for all widths.
+    const int page = widget()->hasHeightForWidth() ? widget()->heightForWidth(width - frame)
+                                                   : widget()->sizeHint().height();
+    const int wanted = page + frame;
     return std::min(wanted, kMostLines * fontMetrics().lineSpacing());
 }
 
@@ -54,6 +68,13 @@ QSize WellHeaderPanel::sizeHint() const
 {
     const int width = widget()->sizeHint().width() + 2 * frameWidth();
     return {width, heightForWidth(width)};
+}
+
+// Folded, it is lower than any panel that scrolls.
+QSize WellHeaderPanel::minimumSizeHint() const
+{
+    const QSize least = FieldPanel::minimumSizeHint();
+    return {least.width(), std::min(least.height(), sizeHint().height())};
 }
 
 // The height that the panel wants is that of its page, which changes with the texts in it.
@@ -71,7 +92,18 @@ void WellHeaderPanel::makeFields()
     auto* grid = new QGridLayout(page);
     title_ = makeTitle(page);
     title_->setObjectName(QStringLiteral("wellTitle"));
-    grid->addWidget(title_, 0, 0, 1, -1);
+    arrow_ = new QToolButton(page);
+    arrow_->setObjectName(QStringLiteral("headerArrow"));
+    arrow_->setToolTip(tr("Show the whole header, or its title alone"));
+    arrow_->setArrowType(Qt::DownArrow);
+    arrow_->setAutoRaise(true);
+    arrow_->setFocusPolicy(Qt::NoFocus); // the menu of views does the same
+    connect(arrow_, &QToolButton::clicked, this, [this] { emit foldAsked(!folded_); });
+    auto* line = new QHBoxLayout;
+    line->setSpacing(kArrowGap);
+    line->addWidget(arrow_);
+    line->addWidget(title_, 1);
+    grid->addLayout(line, 0, 0, 1, -1);
     const std::vector<HeaderField> blank = headerFields(Well(), 'M');
     const int beside = static_cast<int>(blank.size()) - 1;
     const int rows = (beside + kColumns - 1) / kColumns;

@@ -63,12 +63,13 @@ WellListPane::WellListPane(QWidget* parent)
     connect(list_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         &WellListPane::chooseRow);
     const auto onKey = [](Qt::Key key, QWidget* where, auto* pane, auto member) {
-        connect(new QShortcut(
-                    QKeySequence(key), where, nullptr, nullptr, Qt::WidgetWithChildrenShortcut),
-            &QShortcut::activated, pane, member);
+        auto* shortcut = new QShortcut(
+            QKeySequence(key), where, nullptr, nullptr, Qt::WidgetWithChildrenShortcut);
+        connect(shortcut, &QShortcut::activated, pane, member);
+        return shortcut;
     };
     onKey(Qt::Key_Down, field_, this, &WellListPane::enterList);
-    onKey(Qt::Key_Escape, this, this, &WellListPane::clearSearch);
+    escape_ = onKey(Qt::Key_Escape, this, this, &WellListPane::clearSearch);
 }
 
 void WellListPane::setWells(std::vector<WellName> wells)
@@ -84,6 +85,14 @@ void WellListPane::setWells(std::vector<WellName> wells)
     markChosen();
     emit wellChosen(chosen_);
 }
+
+void WellListPane::stayWith(long well_id)
+{
+    chosen_ = well_id;
+    markChosen();
+}
+
+void WellListPane::setEscapeClears(bool clears) { escape_->setEnabled(clears); }
 
 void WellListPane::startSearch()
 {

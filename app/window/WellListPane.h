@@ -8,6 +8,7 @@
 
 class QLabel;
 class QLineEdit;
+class QShortcut;
 class QTableView;
 
 /// The list of the wells with the field that searches it. Searching never changes which well is
@@ -24,6 +25,12 @@ public:
 
     /// Chooses that well as the user would; whether it is among those in sight.
     bool choose(long well_id);
+
+    /// Marks that well as the chosen one again, which the user could not leave.
+    void stayWith(long well_id);
+
+    /// Whether the Escape key empties the search field.
+    void setEscapeClears(bool clears);
 
     /// Puts the keyboard into the search field.
     void startSearch();
@@ -48,6 +55,7 @@ private:
     QLineEdit* field_;
     QLabel* count_;
     QTableView* list_;
+    QShortcut* escape_;
     long chosen_ = 0;
     bool marking_ = false; // rows change under the list; what it makes current is no choice
 };

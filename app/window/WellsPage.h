@@ -3,10 +3,14 @@
 
 #include "app/window/DepthUnits.h"
 #include "app/window/Page.h"
+#include "app/window/WindowServices.h"
+
+#include <QTimer>
 
 #include <memory>
 #include <vector>
 
+class QShortcut;
 class QStackedWidget;
 class QTabWidget;
 class ReadingBar;
@@ -27,7 +31,7 @@ class WellsPage : public Page {
     Q_OBJECT
 
 public:
-    explicit WellsPage(QWidget* parent = nullptr);
+    explicit WellsPage(WindowServices services, QWidget* parent = nullptr);
     ~WellsPage() override;
 
     /// How the database is called, and the option of a command line that names it.
@@ -38,6 +42,11 @@ public:
     bool chooseWell(long well_id);
     /// Brings the view with that title into sight; whether there is one.
     bool openView(const QString& title);
+    /// Whether the user can go without what is edited of the chosen well: where edits are not
+    /// saved, the user is asked.
+    bool mayLeave();
+    /// Shows the whole header of the well, or only its title.
+    void setHeaderFolded(bool folded);
     /// Whether the chosen well is still being loaded.
     bool isReading() const;
 
@@ -48,6 +57,8 @@ public:
 
 signals:
     void openAsked();
+    /// The user turned the arrow of the header.
+    void headerFoldAsked(bool folded);
     /// The user turned a switch on the page.
     void unitsChosen(DepthUnits units);
 
@@ -56,15 +67,23 @@ private:
     void addViews();
     QWidget* makeDetails();
     void connectReader();
+    void setReading(bool reading);
+    void markUnsaved();
+    bool hasUnsaved() const;
+    void leaveFor(long well_id);
     void showWell(long well_id);
     Well* well() const;
     char shownUnits() const;
 
+    WindowServices services_;
     QString databaseName_;
     QString databaseOption_;
     DepthUnits units_ = DepthUnits::OfWell;
     std::unique_ptr<LoadedWell> well_; // chosen; header, views and reader point into it
     WellReader* reader_;
+    QShortcut* escape_; // leaves off loading
+    QTimer leaving_;
+    long next_ = 0; // the well that the user chose and that is not shown yet
 
     QStackedWidget* states_; // the start, or list and details
     StartPage* start_;
@@ -76,4 +95,5 @@ private:
     ReadingBar* reading_;
     ReportStrip* reports_;
     std::vector<WellView*> views_; // in the order of the tabs
+    QStringList titles_;           // of the tabs, without marks
 };

@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QProcess>
 
 namespace {
@@ -18,6 +19,15 @@ bool startProgram(const QStringList& arguments)
     return QProcess::startDetached(QCoreApplication::applicationFilePath(), arguments);
 }
 
+Unsaved askUnsaved(QWidget* parent, const QString& text)
+{
+    const auto answer = QMessageBox::question(parent, QCoreApplication::applicationName(), text,
+        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save);
+    if (answer == QMessageBox::Save)
+        return Unsaved::Save;
+    return answer == QMessageBox::Discard ? Unsaved::Discard : Unsaved::Stay;
+}
+
 } // namespace
 
-WindowServices desktopServices() { return {chooseFile, startProgram}; }
+WindowServices desktopServices() { return {chooseFile, startProgram, askUnsaved}; }

@@ -7,7 +7,6 @@
 
 #include <QComboBox>
 #include <QHBoxLayout>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -28,18 +27,16 @@ constexpr ZoneType kTypes[] = {
 } // namespace
 
 ZonePane::ZonePane()
-    : RecordPane({zoneColumns(), nullptr}, kWords)
+    : RecordPane({zoneColumns(), nullptr, false}, kWords)
     , types_(makeCombo("zoneType", tr("Type of zones")))
     , ranks_(makeCombo("zoneRank", tr("Rank of zones")))
 {
     for (const ZoneType& type : kTypes)
         types_->addItem(tr(type.name), type.igd_type);
     listRanks();
-    auto* line = new QHBoxLayout;
-    addChoice(*line, tr("T&ype"), types_);
-    addChoice(*line, tr("&Rank"), ranks_);
-    line->addStretch();
-    lines().insertLayout(0, line);
+    addChoice(choices(), tr("T&ype"), types_);
+    addChoice(choices(), tr("&Rank"), ranks_);
+    addVersions();
     connect(types_, &QComboBox::activated, this, [this] {
         listRanks();
         readAgain();
@@ -47,9 +44,10 @@ ZonePane::ZonePane()
     connect(ranks_, &QComboBox::activated, this, &ZonePane::readAgain);
 }
 
-std::vector<RecordRow> ZonePane::readRows(Well& well, char units) const
+std::vector<RecordRow> ZonePane::readRows(Well& well, char units, long interp_id)
 {
-    return zoneRows(well, types_->currentData().toInt(), ranks_->currentData().toInt(), units);
+    return zoneRows(
+        well, types_->currentData().toInt(), ranks_->currentData().toInt(), units, interp_id);
 }
 
 // Some types call all their ranks the same, so the number stands with the name.

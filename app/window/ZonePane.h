@@ -13,7 +13,7 @@ public:
     ZonePane();
 
 protected:
-    std::vector<RecordRow> readRows(Well& well, char units) const override;
+    std::vector<RecordRow> readRows(Well& well, char units, long interp_id) override;
 
 private:
     void listRanks();

@@ -84,9 +84,9 @@ std::vector<WellColumn> zoneColumns()
     };
 }
 
-std::vector<RecordRow> zoneRows(Well& well, int igd_type, int rank, char units)
+std::vector<RecordRow> zoneRows(Well& well, int igd_type, int rank, char units, long interp_id)
 {
-    const auto list = interpretationOf(well, igd_type, units, rank);
+    const auto list = interpretationOf(well, igd_type, units, interp_id, rank);
     auto conflicts = conflictWords(*list, isSection(well));
     SchemeNames schemes;
     std::vector<RecordRow> rows;

@@ -113,6 +113,24 @@ TEST_F(InterpretationTabs, RocksEnvironmentsMarkersAndPicksAreShown)
     EXPECT_EQ("492.13", shownRows(look("Lithology", "lithologyTable"))[0].substr(5, 6));
 }
 
+TEST_F(InterpretationTabs, AVersionIsChosenForAllTablesThatHaveVersions)
+{
+    desk.db.run("INSERT INTO IGD (well_id, igd_type, interp_id, hier, top_id, base_id, sch_id,"
+                " upp_zone, upp_inf, q_uzone, top_bnd, base_bnd) VALUES (7, 3, 4, 7, 2, 3, 0, 12, "
+                "'Other', 'N', 3, 3)");
+    desk.db.run("INSERT INTO SQPICK VALUES (7, 4, 1, 1, 'higher', 5, 'Q')");
+    look("Zones", "zoneTable");
+    EXPECT_EQ(2, desk.find<QComboBox>("zoneTableVersion").count());
+    select("zoneTableVersion", "4");
+    EXPECT_THAT(shownRows(look("Zones", "zoneTable")),
+        ElementsAre("|150.00|210.00|Age|Other|Confident|Confident|–"));
+    EXPECT_EQ(0, look("Environment", "environmentTable").rowCount());
+    EXPECT_EQ("100.00|pick|MFS|30.500|?Unconformable|Q|higher",
+        shownRows(look("Markers and picks", "markerTable"))[2]);
+    EXPECT_EQ("4", desk.find<QComboBox>("markerTableVersion").currentText());
+    EXPECT_EQ(2, look("Lithology", "lithologyTable").rowCount()) << "in no version";
+}
+
 TEST_F(InterpretationTabs, DepthsOfASectionAreThoseOfItsSamples)
 {
     desk.db.run("UPDATE WELLS SET type='O'");

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -185,12 +186,29 @@ TEST_F(MainWindowTest, EveryPlaceOfTheKeyboardHasAName)
             "Views of the well", "Units of depths", "Samples of the well"}));
 }
 
+TEST_F(MainWindowTest, TheHeaderFoldsToItsTitleAndStaysSo)
+{
+    desk.openConnected();
+    activate();
+    QWidget& header = desk.find<QWidget>("wellHeader");
+    const int whole = header.height();
+    QTest::keyClick(desk.window.get(), Qt::Key_H, Qt::ControlModifier);
+    desk.choose("B2");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return header.height() < whole / 2; })) << header.height();
+    EXPECT_GT(header.height(), desk.find<QLabel>("wellTitle").height());
+    desk.find<QAbstractButton>("headerArrow").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return header.height() == whole; }));
+}
+
 TEST_F(MainWindowTest, TellsItsVersion)
 {
     desk.openConnected();
     desk.act("About Zonaris");
     EXPECT_THAT(
         desk.messages.texts(), ElementsAre(testing::ContainsRegex("^Zonaris [0-9]+\\.[0-9]")));
+    EXPECT_THAT(desk.messages.texts()[0],
+        HasSubstr("International Chronostratigraphic Chart 2024-12, International Commission on"
+                  " Stratigraphy, CC BY 4.0"));
 }
 
 } // namespace

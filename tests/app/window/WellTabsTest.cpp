@@ -257,6 +257,26 @@ TEST_F(WellTabs, CancellingKeepsWhatIsLoaded)
     EXPECT_THAT(summary(), HasSubstr("from events of interpretation 0 on nothing is loaded"));
 }
 
+TEST_F(WellTabs, EscapeCancelsWhereverTheKeyboardIs)
+{
+    open("Occurrences");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(desk.window.get()));
+    auto& search = desk.find<QLineEdit>("wellSearch");
+    search.setText("SYN");
+    for (const char* name : {"wellSearch", "occurrenceTable"}) {
+        QWidget* const place = &desk.find<QWidget>(name);
+        desk.act("Read again");
+        ASSERT_TRUE(reading());
+        place->setFocus();
+        QTest::keyClick(place, Qt::Key_Escape);
+        EXPECT_FALSE(reading());
+    }
+    EXPECT_EQ("SYN", search.text());
+    search.setFocus();
+    QTest::keyClick(&search, Qt::Key_Escape);
+    EXPECT_EQ("", search.text());
+}
+
 TEST_F(WellTabs, AnotherChoiceStopsTheLoading)
 {
     open("Occurrences");

@@ -49,6 +49,10 @@ WindowServices WindowDesk::services()
         [this](const QStringList& arguments) {
             started.push_back(arguments);
             return starts;
+        },
+        [this](QWidget*, const QString& text) {
+            asked += text;
+            return wish;
         }};
 }
 

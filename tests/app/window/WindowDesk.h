@@ -33,6 +33,8 @@ public:
     std::vector<QStringList> started; // command lines of programs
     bool starts = true;               // whether starting one works
     QString picked;                   // what the file dialog gives back
+    QStringList asked;                // before edits are left
+    Unsaved wish = Unsaved::Stay;     // what the user answers
     std::unique_ptr<MainWindow> window;
 
 private:
