@@ -80,14 +80,21 @@ std::vector<Part> partsOf(std::string_view text)
     return parts;
 }
 
-std::string withoutBraces(std::string_view value)
+// With closing braces doubled, as they are typed.
+std::string_view insideBraces(std::string_view value)
 {
     if (!value.starts_with('{'))
-        return std::string(value);
+        return value;
+    value.remove_prefix(1);
+    return value.ends_with('}') ? value.substr(0, value.size() - 1) : value;
+}
+
+std::string singleBraces(std::string_view inside)
+{
     std::string plain;
-    for (std::size_t i = 1; i + 1 < value.size(); ++i) {
-        plain += value[i];
-        i += value[i] == '}' && value[i + 1] == '}';
+    for (std::size_t i = 0; i < inside.size(); ++i) {
+        plain += inside[i];
+        i += inside.substr(i, 2) == "}}";
     }
     return plain;
 }
@@ -139,7 +146,8 @@ std::string withoutSecretsOf(const std::string& connectString, std::string messa
             continue;
         const std::string_view secret = trimmedLeft(trimmedRight(part.text.substr(part.secret)));
         replaceAll(message, std::string(secret), kHidden);
-        replaceAll(message, withoutBraces(secret), kHidden);
+        replaceAll(message, std::string(insideBraces(secret)), kHidden);
+        replaceAll(message, singleBraces(insideBraces(secret)), kHidden);
     }
     return withoutSecrets(message);
 }

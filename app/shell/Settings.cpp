@@ -61,7 +61,8 @@ bool isConnectionName(const std::string& text)
 {
     constexpr const char* kAllowed =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-_";
-    return !text.empty() && text.find_first_not_of(kAllowed) == std::string::npos;
+    return text.find_first_of(kAllowed) == 0 && text.find_first_of("-_") != 0
+        && text.find_first_not_of(kAllowed) == std::string::npos;
 }
 
 std::string resolveConnection(

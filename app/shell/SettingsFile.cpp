@@ -48,7 +48,9 @@ Json parsed(const std::string& text)
     try {
         return Json::parse(text);
     } catch (const Json::parse_error& error) {
-        const auto end = text.begin() + static_cast<long>(std::min(error.byte, text.size()));
+        // The byte counts from 1; where it is a line's end itself, that line is meant.
+        const std::size_t before = std::clamp<std::size_t>(error.byte, 1, text.size() + 1) - 1;
+        const auto end = text.begin() + static_cast<std::ptrdiff_t>(before);
         throw WrongContent("line " + std::to_string(1 + std::count(text.begin(), end, '\n'))
             + ": this is not JSON");
     }
