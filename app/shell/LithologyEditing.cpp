@@ -99,7 +99,8 @@ std::vector<const LithDicTerm*> LithologyEditing::termsOf(char kind)
 {
     std::vector<const LithDicTerm*> terms;
     for (const LithDicTerm* term : dictionary().terms) {
-        const bool fits = isQualifier(kind) ? term->kind == kind : !isQualifier(term->kind);
+        const bool fits =
+            kind == LithDicTerm::kMainLithology ? !isQualifier(term->kind) : term->kind == kind;
         if (fits && term->active)
             terms.push_back(term);
     }
