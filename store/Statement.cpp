@@ -207,3 +207,13 @@ bool Statement::read(int n, ColumnType type, Value* out)
     return type == ColumnType::Text || type == ColumnType::Date ? readAsText(column, type, out)
                                                                 : readAsNumber(column, type, out);
 }
+
+bool Statement::readStored(int n, std::optional<std::string>* out)
+{
+    bool isNull = false;
+    out->emplace();
+    const bool good = readText(static_cast<SQLUSMALLINT>(n), &**out, &isNull);
+    if (!good || isNull)
+        out->reset();
+    return good;
+}

@@ -6,6 +6,7 @@
 #include <sql.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,9 @@ public:
     /// Column `n` [1-..] of the current row; columns are read once, in order. Texts of any length,
     /// trailing white space removed. False: `error` tells why.
     bool read(int n, ColumnType type, Value* out);
+
+    /// The same as text with nothing removed, none for NULL: what a copy of the database needs.
+    bool readStored(int n, std::optional<std::string>* out);
 
     /// Ends the rows; the statement can be executed again.
     void close();

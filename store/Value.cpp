@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
-std::string storedText(std::string_view text)
+std::string storedText(std::string_view text) { return storedWhole(trimmedRight(text)); }
+
+std::string storedWhole(std::string_view text)
 {
-    std::string stored(trimmedRight(text));
+    std::string stored(text);
     std::ranges::replace(stored, '\'', '`');
     return stored;
 }

@@ -16,10 +16,12 @@ enum class ColumnType { Text, Integer, Number, Float, Date };
 
 // The schema's literals keep an apostrophe as a backquote, so a lookup composed as text asks for
 // the backquote. Whatever is bound must therefore be stored the same way, and shown the other way
-// round. These two are the only place that knows.
+// round. These three are the only place that knows.
 
 /// `text` as the database holds it: apostrophes as backquotes, trailing white space removed.
 std::string storedText(std::string_view text);
+/// The same with nothing removed, for copies of a database.
+std::string storedWhole(std::string_view text);
 /// A text of the database as people read it: backquotes as apostrophes.
 std::string shownText(std::string_view stored);
 

@@ -54,6 +54,7 @@ void addPictureOptions(CLI::App& app, PictureOptions* picture)
 constexpr void (*kCommands[])(CLI::App&, BatchOptions*) = {
     addCreate,
     addImport,
+    addExport,
     addWells,
     addSamples,
     addLoad,

@@ -12,6 +12,7 @@ class App;
 
 void addCreate(CLI::App& app, BatchOptions* options);
 void addImport(CLI::App& app, BatchOptions* options);
+void addExport(CLI::App& app, BatchOptions* options);
 void addWells(CLI::App& app, BatchOptions* options);
 void addSamples(CLI::App& app, BatchOptions* options);
 void addLoad(CLI::App& app, BatchOptions* options);

@@ -2,7 +2,7 @@
 #include "app/import/AbundanceCells.h"
 
 #include "app/import/AnalysisShapes.h"
-#include "app/import/NamedNotes.h"
+#include "app/tables/NamedNotes.h"
 #include "util/TextUtil.h"
 
 #include <algorithm>

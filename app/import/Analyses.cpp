@@ -2,7 +2,7 @@
 #include "app/import/Analyses.h"
 
 #include "app/import/ImportContext.h"
-#include "app/import/NamedNotes.h"
+#include "app/tables/NamedNotes.h"
 
 #include <algorithm>
 

@@ -113,6 +113,15 @@ std::optional<Value> givenValue(Cell state, Value value)
     return state == Cell::Good ? std::move(value) : Value();
 }
 
+std::optional<std::string> CellReader::bytes(int column) const
+{
+    const int field = file_.column(column).field;
+    const auto place = static_cast<std::size_t>(field);
+    if (field < 0 || (place < row_.nothing.size() && row_.nothing[place]))
+        return std::nullopt;
+    return row_.fields[place];
+}
+
 std::string_view CellReader::raw(int column) const
 {
     const int field = file_.column(column).field;

@@ -60,6 +60,9 @@ public:
     /// `*units` is what the column's name or the map says, or 0.
     Cell depth(int column, double* out, char* units);
 
+    /// The bytes of the cell with nothing dropped or changed, for copies of a database. None where
+    /// the file has nothing, not even quotation marks.
+    std::optional<std::string> bytes(int column) const;
     /// The cell as the file has it, white space around it dropped; empty when there is none.
     std::string_view raw(int column) const;
     const std::string& header(int column) const { return file_.column(column).header; }

@@ -108,7 +108,7 @@ bool CsvReader::readLine()
 
 void CsvReader::startParser()
 {
-    csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI);
+    csv_init(&parser_, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL);
     csv_set_delim(&parser_, static_cast<unsigned char>(separator_));
     csv_set_space_func(&parser_, isBlank);
 }
@@ -145,6 +145,7 @@ void CsvReader::onField(void* text, std::size_t length, void* reader)
     auto& fields = self->row_->fields;
     if (self->fields_ == fields.size())
         fields.emplace_back();
+    self->row_->nothing.push_back(!text);
     fields[self->fields_++].assign(static_cast<const char*>(text), text ? length : 0);
 }
 
@@ -187,6 +188,7 @@ bool CsvReader::next(CsvRow* row)
 {
     row_ = row;
     row->fault.clear();
+    row->nothing.clear();
     fields_ = 0;
     rowBytes_ = 0;
     rowEnded_ = false;

@@ -13,7 +13,8 @@
 struct CsvRow {
     long line = 0; ///< from 1, where the row begins
     std::vector<std::string> fields;
-    std::string fault; ///< why the row cannot be read; empty for a good row
+    std::string fault;              ///< why the row cannot be read; empty for a good row
+    std::vector<bool> nothing = {}; ///< of each field: no byte and no quotation marks
 };
 
 /// Reads a CSV file row by row: UTF-8, a byte-order mark dropped, the separator (comma, semicolon

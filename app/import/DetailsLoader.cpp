@@ -3,8 +3,8 @@
 #include "app/import/AnalysisShapes.h"
 #include "app/import/DetailZones.h"
 #include "app/import/Loader.h"
-#include "app/import/NamedNotes.h"
 #include "app/import/RowPlaces.h"
+#include "app/tables/NamedNotes.h"
 #include "store/DetailWriter.h"
 #include "util/TextUtil.h"
 

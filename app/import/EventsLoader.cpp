@@ -5,9 +5,9 @@
 #include "app/import/EventShapes.h"
 #include "app/import/IntervalCells.h"
 #include "app/import/Loader.h"
-#include "app/import/NamedNotes.h"
 #include "app/import/RowPlaces.h"
 #include "app/import/WellCells.h"
+#include "app/tables/NamedNotes.h"
 #include "store/EventWriter.h"
 #include "util/TextUtil.h"
 

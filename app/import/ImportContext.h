@@ -6,6 +6,7 @@
 #include "app/import/Dictionary.h"
 #include "app/import/InputFile.h"
 #include "app/import/Interpretation.h"
+#include "app/import/TableNumbers.h"
 #include "store/AbundanceWriter.h"
 #include "store/EventWriter.h"
 #include "store/WellWriter.h"
@@ -68,6 +69,7 @@ public:
     EventDictionaryWriter events;
     Numbered<EventEntry> numberedEvents;
     Interpretation interpretation;
+    TableNumbers tableNumbers;
 
     /// What a set of files says about its abundances.
     struct SetAbundances {

@@ -6,6 +6,7 @@
 #include "app/import/ImportContext.h"
 #include "app/import/Inputs.h"
 #include "app/import/Loader.h"
+#include "app/import/TableLoader.h"
 #include "store/Transaction.h"
 
 #include <algorithm>
@@ -234,7 +235,8 @@ private:
     {
         std::unique_ptr<RowLoader>& loader = loaders_[&shape];
         if (!loader)
-            loader = shape.makeLoader(context_);
+            loader =
+                shape.table ? makeTableLoader(context_, *shape.table) : shape.makeLoader(context_);
         return *loader;
     }
 

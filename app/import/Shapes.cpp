@@ -8,6 +8,7 @@
 #include "app/import/Loader.h"
 #include "app/import/MarkerShapes.h"
 #include "app/import/RockShapes.h"
+#include "app/import/TableLoader.h"
 
 #include <algorithm>
 #include <functional>
@@ -210,13 +211,22 @@ bool namesShape(std::string_view stem, std::string_view shape)
 
 } // namespace
 
-std::span<const FileShape> fileShapes() { return kShapes; }
+std::span<const FileShape> fileShapes()
+{
+    static const auto shapes = [] {
+        std::vector<FileShape> all(std::begin(kShapes), std::end(kShapes));
+        const auto tables = tableShapes();
+        all.insert(all.end(), tables.begin(), tables.end());
+        return all;
+    }();
+    return shapes;
+}
 
 std::vector<const FileShape*> shapesOfFile(std::string_view stem)
 {
     std::vector<const FileShape*> shapes;
-    for (const FileShape& shape : kShapes)
-        if (namesShape(stem, shape.name))
+    for (const FileShape& shape : fileShapes())
+        if (shape.table ? stem == shape.name : namesShape(stem, shape.name))
             shapes.push_back(&shape);
     std::ranges::stable_sort(
         shapes, std::greater(), [](const FileShape* shape) { return shape->name.size(); });

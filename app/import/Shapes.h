@@ -8,6 +8,7 @@
 
 class ImportContext;
 class RowLoader;
+struct TableFile;
 
 // The files that an import knows. A new kind of file is a column table and a row in `fileShapes`,
 // both in Shapes.cpp, and a loader in a file of its own.
@@ -43,6 +44,9 @@ struct FileShape {
     std::unique_ptr<RowLoader> (*makeLoader)(ImportContext&);
     /// Files of other kinds have this name too: one without the required columns is left.
     bool sharesName = false;
+    /// A table of the database as an export writes it: known by its exact name and all its columns,
+    /// and loaded by these instead of `makeLoader`.
+    const TableFile* table = nullptr;
 };
 
 /// In the order in which they have to be stored: each behind those whose rows it refers to.

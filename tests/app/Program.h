@@ -4,19 +4,11 @@
 #include "tests/app/Files.h"
 
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include <sys/wait.h>
 
 #include <gtest/gtest.h>
-
-inline std::string contentOf(const std::filesystem::path& file)
-{
-    std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 // The program itself, run in a shell with what stands behind its name.
 class Program : public testing::Test {

@@ -1,7 +1,7 @@
 // tests/app/import/analysis/AbundanceFormsTest.cpp
 #include "app/import/Abundance.h"
 #include "app/import/EventKind.h"
-#include "app/import/NamedNotes.h"
+#include "app/tables/NamedNotes.h"
 
 #include <ostream>
 #include <sstream>

@@ -1,5 +1,5 @@
-// app/import/NamedNotes.cpp
-#include "app/import/NamedNotes.h"
+// app/tables/NamedNotes.cpp
+#include "app/tables/NamedNotes.h"
 
 #include <algorithm>
 #include <optional>

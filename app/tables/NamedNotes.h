@@ -1,4 +1,4 @@
-// app/import/NamedNotes.h
+// app/tables/NamedNotes.h
 #pragma once
 
 #include <string>
