@@ -2,6 +2,7 @@
 #pragma once
 
 #include "app/shell/ConnectionSettings.h"
+#include "store/Create.h"
 
 #include <functional>
 #include <string>
@@ -31,6 +32,7 @@ struct BatchOptions {
     std::function<int()> run;
     DatabaseNeed database = DatabaseNeed::Open;
     std::string newFile;    ///< create: the file, when it stands behind the command
+    FillDatabase fill;      ///< create: puts in what a new database begins with
     PictureOptions picture; ///< without a command: save the window and end
 };
 

@@ -35,18 +35,6 @@ int run(const Values& values)
 
 } // namespace
 
-void addCreate(CLI::App& app, BatchOptions* options)
-{
-    const auto tell = [=] {
-        std::cout << "Created " << options->connection.databaseFile << '\n';
-        return kDone;
-    };
-    addCommand(app, options, "create",
-        "Make a new embedded database with empty tables; a file that is there is left as it is",
-        tell, DatabaseNeed::Create)
-        ->add_option("FILE", options->newFile, "The new file (or give it with --database)");
-}
-
 void addImport(CLI::App& app, BatchOptions* options)
 {
     const auto values = std::make_shared<Values>();

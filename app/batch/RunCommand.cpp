@@ -16,7 +16,7 @@ public:
 std::string openFor(const BatchOptions& options)
 {
     if (options.database == DatabaseNeed::Create)
-        return createDatabaseFile(options.connection);
+        return createDatabaseFile(options.connection, options.fill);
     return options.connection.isNamed() ? openDatabase(options.connection) : "";
 }
 

@@ -14,7 +14,7 @@ using testing::StartsWith;
 TEST_F(Program, CreatesImportsAndLists)
 {
     const std::string set = ZONARIS_SOURCE_DIR "/examples/synthetic";
-    EXPECT_EQ(0, run("create a.zdb"));
+    EXPECT_EQ(0, run("create --empty a.zdb"));
     EXPECT_EQ("Created a.zdb\n", out);
     const std::string before = contentOf(folder.path() / "a.zdb");
     EXPECT_EQ(1, run("--database a.zdb create"));
@@ -56,6 +56,36 @@ TEST_F(Program, CreatesImportsAndLists)
     EXPECT_THAT(out, HasSubstr("\n1600.26-1600.32  1600.26   1600.32  CO    2-1 \"soft\"\n"));
 }
 
+TEST_F(Program, CreatesWithTheStarterDictionariesOrNotAtAll)
+{
+    ASSERT_EQ(0, run("create a.zdb"));
+    EXPECT_EQ("", err);
+    EXPECT_THAT(out, StartsWith("Created a.zdb\nstarter dictionary     rows\ndisciplines.csv"));
+    EXPECT_THAT(out, HasSubstr("\nchronostrat_ics.csv     179\n"));
+    EXPECT_EQ(0, run("--database a.zdb age 'ics 2024-12' 65"));
+    EXPECT_THAT(out, HasSubstr("   7  Age  Danian  e1 "));
+
+    std::filesystem::create_directory(folder.path() / "dictionaries");
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"none", "disc_id,disc_name\n",
+            "not found. Looked for:\n  none\nSet ZONARIS_STARTER to the folder that holds them."},
+        {"dictionaries", "disc_id,disc_name\nM,Micro\nX,Other\n",
+            "in dictionaries could not be loaded. Rows refused: 1."},
+        {"dictionaries", "", "could not be loaded. A file cannot be used; nothing was stored."}};
+    for (const auto& [place, content, message] : cases) {
+        folder.write("dictionaries/disciplines.csv", content);
+        setenv("ZONARIS_STARTER", place, 1);
+        EXPECT_EQ(1, run("create b.zdb"));
+        EXPECT_THAT(err, HasSubstr(message));
+        EXPECT_THAT(err,
+            testing::EndsWith("\nNo database was made. With --empty it is made "
+                              "without them.\n"));
+        EXPECT_FALSE(std::filesystem::exists(folder.path() / "b.zdb")) << message;
+    }
+    EXPECT_EQ(0, run("create --empty b.zdb"));
+    unsetenv("ZONARIS_STARTER");
+}
+
 struct Shown {
     const char* arguments;
     int status;
@@ -63,7 +93,7 @@ struct Shown {
 };
 
 const Shown kShown[] = {
-    {"load SYN-1", 0, "\ndiscipline M occurrences        96        0"},
+    {"load SYN-1", 0, "\nMicropalaeontology occurrences      96        0"},
     {"summary SYN-1", 0,
         "\nWell name: \u00D8rnefjell 1\nTotal: 31 samples, depth range 1010.00m to 1210.00m\n"
         "Total M occurrences: 96\nTotal N occurrences: 30\n"},
@@ -79,7 +109,8 @@ const Shown kShown[] = {
     {"occurrences SYN-1 --disc P --analyst AN9", 1, "There are: AN3, AN3/2."},
     {"tops SYN-1 --disc M --exclude-suspect", 0,
         "1090-1100  CU     1080-1090  reworked in 2 samples beyond  1180-1190  CU     1190-1200"},
-    {"tops SYN-1 --disc X", 1, "There is no discipline X. There are: M (discipline M), N "},
+    {"tops SYN-1 --disc X", 1,
+        "There is no discipline X. There are: M (Micropalaeontology), N (Nanno"},
     {"events SYN-1", 0, "\n   1043.5  SC    Top of Fictina secunda "},
     {"standard 'Synthetic standard'", 0, "\n17.000  Base of Fictina prima\n"},
     {"standard Other", 1, "No composite standard is called Other."},

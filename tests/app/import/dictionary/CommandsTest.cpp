@@ -125,7 +125,7 @@ protected:
         folder.write("schemes.csv", "scheme_id,name\n1,Counts\n");
         folder.write("levels.csv",
             "scheme_id,entry_name,abr,min,output_val\n1,Rare,R,0,\n1,Some,5,3,10\n1,,+,4,\n");
-        EXPECT_EQ(0, run("create a.zdb"));
+        EXPECT_EQ(0, run("create --empty a.zdb"));
         EXPECT_EQ(0, run("--database a.zdb import --strict .")) << err;
     }
 };
