@@ -3,12 +3,13 @@
 #include "app/import/AnalysisCells.h"
 #include "app/import/AnalysisShapes.h"
 #include "app/import/Loader.h"
+#include "app/import/RowPlaces.h"
 #include "app/import/TaxonName.h"
 #include "store/DetailWriter.h"
 #include "store/OccurrenceWriter.h"
 #include "util/TextUtil.h"
 
-#include <unordered_map>
+#include <cstdint>
 
 namespace {
 
@@ -30,20 +31,23 @@ struct OccurrenceKey {
     const Analysis* analysis;
     bool reworked;
     bool questionable;
-
-    bool operator==(const OccurrenceKey&) const = default;
 };
 
-struct OccurrenceHash {
-    std::size_t operator()(const OccurrenceKey& key) const
-    {
-        constexpr std::size_t kSpread = 0x9E3779B97F4A7C15U; // 2^64 over the golden ratio
-        std::size_t hash = static_cast<std::size_t>(key.sample) * 4 + (key.reworked ? 2U : 0U)
-            + (key.questionable ? 1U : 0U);
-        hash = hash * kSpread ^ reinterpret_cast<std::size_t>(key.taxon);
-        return hash * kSpread ^ reinterpret_cast<std::size_t>(key.analysis);
-    }
-};
+// Every bit of `value` changes half of the result's bits.
+std::uint64_t mixed(std::uint64_t value)
+{
+    value = (value ^ (value >> 30)) * 0xBF58476D1CE4E5B9U;
+    value = (value ^ (value >> 27)) * 0x94D049BB133111EBU;
+    return value ^ (value >> 31);
+}
+
+std::uint64_t hashOf(const OccurrenceKey& key)
+{
+    const auto marks = static_cast<std::uint64_t>(key.sample) * 4 + (key.reworked ? 2U : 0U)
+        + (key.questionable ? 1U : 0U);
+    const std::uint64_t hash = mixed(marks) + reinterpret_cast<std::uintptr_t>(key.taxon);
+    return mixed(mixed(hash) + reinterpret_cast<std::uintptr_t>(key.analysis));
+}
 
 class OccurrencesLoader : public RowLoader {
 public:
@@ -160,12 +164,10 @@ private:
     {
         const OccurrenceKey key{
             sample_->ordinal, taxon_, analysis_, record_.reworked, record_.questionable};
-        const RowPlace place{&cells.file(), cells.line()};
-        const RowPlace& first = rows_.try_emplace(key, place).first->second;
-        if (!(first == place))
+        if (const auto* first = rows_.before(hashOf(key), {&cells.file(), cells.line()}))
             cells.report().refuse("", "",
                 "the same sample, taxon, analyst, status and identification are in "
-                    + first.seenFrom(cells.file()) + " already, which is kept");
+                    + first->seenFrom(cells.file()) + " already, which is kept");
         else if (!context_.analyses.hasDetails(sample_->ordinal, *analysis_))
             cells.report().noteOnce("", "",
                 "samples without details of their analyst get them, not barren, unless the "
@@ -207,7 +209,7 @@ private:
     ImportContext& context_;
     OccurrenceWriter writer_;
     DetailWriter details_;
-    std::unordered_map<OccurrenceKey, RowPlace, OccurrenceHash> rows_;
+    FirstRows rows_;
 
     // The row at hand.
     OccurrenceRecord record_;

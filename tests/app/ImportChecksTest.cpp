@@ -153,7 +153,7 @@ const CheckCase kSamples[] = {
     {"byte-order mark and columns that are not kept",
         "\xEF\xBB\xBFwell_code,depth_m,section,type,,top_depth_m\nA,1,2,CU,x,5\n",
         {"samples.csv: note: begins with a byte-order mark, which was dropped",
-            "samples.csv: note: columns not kept: section, \"\", depth_m"},
+            "samples.csv: note: columns not kept: depth_m, section, \"\""},
         {"1|5|NULL|CU|NULL"}},
     {"a unit that is not known", "well_code,top_depth_km,base_depth_m,type\nA,1,2,CU\n",
         {"samples.csv: note: top_depth_km: unknown unit \"km\" (m and ft are known); the column is "
