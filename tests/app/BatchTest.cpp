@@ -201,7 +201,7 @@ const UsageCase kUsages[] = {
     {"help of a command", "import --help", 0, "--strict"},
     {"version", "--version", 0, "zonaris "},
     {"unknown option", "--nonsense", 2, "--nonsense"},
-    {"unknown command", "--database a.zdb export", 2, "export"},
+    {"unknown command", "--database a.zdb translate", 2, "translate"},
     {"no database", "wells", 2, "name it with --database or --connect"},
     {"two databases", "--database a.zdb --connect DSN=x wells", 2, "--database excludes --connect"},
     {"unknown kind", "--database a.zdb --kind 4 wells", 2, "--kind"},
