@@ -29,6 +29,9 @@ install(FILES "${CMAKE_BINARY_DIR}/packaging/changelog.gz" DESTINATION share/doc
 install(FILES "${CMAKE_BINARY_DIR}/packaging/changelog.gz" DESTINATION share/doc/zonaris-dev
   COMPONENT library)
 
+# A package needs what it holds, not the tests.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME zonaris)
 set(CPACK_PACKAGE_VENDOR "")
