@@ -3,6 +3,7 @@
 
 #include "app/shell/FindWell.h"
 #include "app/shell/OpenDatabase.h"
+#include "app/shell/SettingsFile.h"
 #include "app/window/MainWindow.h"
 #include "app/window/WellsPage.h"
 #include "db/ErrorReporter.h"
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QPixmap>
 
+#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -32,13 +34,39 @@ private:
     std::unique_ptr<MainWindow> main_;
 };
 
-/// Null after a reported failure.
-std::unique_ptr<MainWindow> makeWindow(const ConnectionSettings& settings)
+/// The database that was used last, for a start without one; none when its file is gone.
+ConnectionSettings lastUsed(ConnectionSettings settings)
 {
-    const std::string error = settings.isNamed() ? openDatabase(settings) : std::string();
+    Settings known;
+    std::error_code ignored;
+    const std::string problem = readSettings(&known);
+    if (problem.empty() && !known.recent.empty()
+        && std::filesystem::exists(known.recent.front(), ignored))
+        settings.databaseFile = known.recent.front();
+    return settings;
+}
+
+// A conversion is told, since it left a second file.
+std::string openAndTell(const ConnectionSettings& settings)
+{
+    std::string notice;
+    const std::string error = settings.isNamed() ? openDatabase(settings, &notice) : std::string();
+    if (!notice.empty())
+        reportError(notice);
+    if (error.empty() && settings.isNamed())
+        rememberDatabase(settings);
+    return error;
+}
+
+/// Null after a reported failure, unless nobody asked for this database: then without one.
+std::unique_ptr<MainWindow> makeWindow(ConnectionSettings settings, bool asked = true)
+{
+    const std::string error = openAndTell(settings);
     if (!error.empty()) {
         reportError(error);
-        return nullptr;
+        if (asked)
+            return nullptr;
+        settings.databaseFile.clear();
     }
     auto main = std::make_unique<MainWindow>(settings, desktopServices());
     // The message boxes of the first reading already belong to the window.
@@ -112,7 +140,8 @@ int run(const StartArguments& start, const RootWindowMaker& make)
 int openMainWindow(const StartArguments& start, const ConnectionSettings& settings)
 {
     return run(start, [&](zApp& app) -> std::unique_ptr<RootWindow> {
-        std::unique_ptr<MainWindow> main = makeWindow(settings);
+        std::unique_ptr<MainWindow> main =
+            settings.isNamed() ? makeWindow(settings) : makeWindow(lastUsed(settings), false);
         if (main)
             return std::make_unique<MainRoot>(std::move(main));
         app.setExitStatus(1);

@@ -6,8 +6,8 @@
 #include "app/shell/ConnectionSettings.h"
 
 /// Runs the program with its main window, on the database that `settings` names or, when they name
-/// none, without one until the user opens one. Returns the exit status of the process: 1 when the
-/// database could not be opened, which a message box said.
+/// none, on the one that was used last; without one until the user opens one. Returns the exit
+/// status of the process: 1 when the database could not be opened, which a message box said.
 int openMainWindow(const StartArguments& start, const ConnectionSettings& settings);
 
 /// Makes the same window, saves it as a PNG file once the chosen well is loaded, for pictures in

@@ -1,7 +1,7 @@
 // app/batch/BatchOptions.h
 #pragma once
 
-#include "app/shell/ConnectionSettings.h"
+#include "app/shell/Settings.h"
 #include "store/Create.h"
 
 #include <functional>
@@ -9,9 +9,12 @@
 
 /// What a command does with the database.
 enum class DatabaseNeed {
-    Open,    ///< works on one that is there
-    Create,  ///< makes the file
-    IfNamed, ///< looks into one when the user names it
+    Open,     ///< works on one that is there
+    Create,   ///< makes the file
+    IfNamed,  ///< looks into one when the user names it
+    AsIs,     ///< works on one that is there, whatever its tables are
+    ByItself, ///< connects by itself with what the user names, if anything
+    None,     ///< has nothing to do with one
 };
 
 /// A picture of the window, for documents.
@@ -26,7 +29,8 @@ struct PictureOptions {
 
 /// What the command line asks for.
 struct BatchOptions {
-    ConnectionSettings connection;
+    ConnectionChoice asked;        ///< as it stands on the command line
+    ConnectionSettings connection; ///< what that means with the user's settings
     /// The command, with its own options, to be carried out on an open session. Returns the exit
     /// status. None: the main window.
     std::function<int()> run;

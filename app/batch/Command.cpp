@@ -13,6 +13,14 @@ CLI::App* addCommand(CLI::App& app, BatchOptions* options, const char* name, con
     return command;
 }
 
+CLI::App* addGroup(CLI::App& app, const char* name, const char* help)
+{
+    CLI::App* group = app.add_subcommand(name, help);
+    group->fallthrough();
+    group->require_subcommand(1);
+    return group;
+}
+
 void addWell(CLI::App* command, std::string* well)
 {
     command->add_option("WELL", *well, "Code, name or number of the well")->required();

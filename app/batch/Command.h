@@ -13,6 +13,10 @@
 CLI::App* addCommand(CLI::App& app, BatchOptions* options, const char* name, const char* help,
     std::function<int()> run, DatabaseNeed database = DatabaseNeed::Open);
 
+/// Declares a word that commands stand behind, as in "pref get": they are added to the result, and
+/// one of them must follow. The result belongs to `app`.
+CLI::App* addGroup(CLI::App& app, const char* name, const char* help);
+
 /// The argument that names a well.
 void addWell(CLI::App* command, std::string* well);
 

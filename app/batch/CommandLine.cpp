@@ -2,10 +2,13 @@
 #include "app/batch/CommandLine.h"
 
 #include "app/batch/Commands.h"
+#include "app/shell/ProgramVersion.h"
+#include "app/shell/SettingsFile.h"
 
 #include <CLI/CLI.hpp>
 
 #include <iostream>
+#include <sstream>
 
 namespace {
 
@@ -18,24 +21,26 @@ constexpr const char* kExamples = "Examples:\n"
                                   "  zonaris --database my.zdb samples \"WELL 1\" --units F\n"
                                   "Exit status: 0 done, 1 failed, 2 wrong usage.";
 
-void addConnectionOptions(CLI::App& app, ConnectionSettings* connection)
+void addConnectionOptions(CLI::App& app, ConnectionChoice* asked)
 {
-    CLI::Option* file = app.add_option("--database", connection->databaseFile,
-                               "An embedded database, held in this file")
+    CLI::Option* file = app.add_option("--database", asked->database,
+                               "An embedded database, held in this file, or the name of a kept "
+                               "connection")
                             ->type_name("FILE");
-    app.add_option("--connect", connection->connectString,
-           "Any other database: an ODBC connection string, such as \"DSN=wells;UID=me;PWD=...\"")
+    app.add_option("--connect", asked->connect,
+           "Any other database: an ODBC connection string, such as \"DSN=wells;UID=me;PWD=...\", "
+           "or the name of a kept connection")
         ->type_name("STRING")
         ->excludes(file);
-    app.add_option("--kind", connection->kind,
+    app.add_option("--kind", asked->kind,
            "Kind of the database: 0 speaks Access-style SQL (default), 2 Oracle's; 3 is 0 with "
            "Oracle's dates, 1 and 5 are 0 with another catalogue")
         ->type_name("N")
         ->check(CLI::IsMember({0, 1, 2, 3, 5}));
-    app.add_option("--owner", connection->ownerPrefix,
+    app.add_option("--owner,--prefix", asked->ownerPrefix,
            "Put in front of every table name, with its separator, such as \"GEO.\"")
         ->type_name("PREFIX");
-    app.add_option("--user", connection->user,
+    app.add_option("--user", asked->user,
            "Your abbreviation, at most 5 letters; rows that you store carry it")
         ->type_name("ABR");
 }
@@ -78,26 +83,78 @@ constexpr void (*kCommands[])(CLI::App&, BatchOptions*) = {
     addTaxa,
     addTaxon,
     addAbundance,
+    addPref,
+    addConnections,
+    addConnection,
+    addBackup,
+    addDoctor,
 };
 
-// What the declarations above cannot say.
-void checkTogether(BatchOptions* options)
+std::string noDatabase(const Settings& settings)
 {
-    ConnectionSettings& connection = options->connection;
-    if (!options->newFile.empty() && !connection.databaseFile.empty())
+    std::string text = "name it with --database or --connect";
+    if (!settings.recent.empty())
+        text += ". Recent ones:";
+    for (const std::string& file : settings.recent)
+        text += "\n  --database \"" + file + '"';
+    return text;
+}
+
+// A file to be made is not the name of a connection.
+std::string resolve(BatchOptions* options, const Settings& settings)
+{
+    ConnectionChoice asked = options->asked;
+    if (options->database != DatabaseNeed::Create)
+        return resolveConnection(asked, settings, &options->connection);
+    asked.database.clear();
+    asked.connect.clear();
+    const std::string problem = resolveConnection(asked, settings, &options->connection);
+    options->connection.databaseFile =
+        options->newFile.empty() ? options->asked.database : options->newFile;
+    return problem;
+}
+
+// What the declarations above cannot say.
+void checkTogether(const BatchOptions& options)
+{
+    const ConnectionChoice& asked = options.asked;
+    if (!options.newFile.empty() && !asked.database.empty())
         throw CLI::ValidationError("create", "the file is given twice");
-    if (!options->newFile.empty())
-        connection.databaseFile = options->newFile;
-    if (connection.user.size() > 5)
+    if (asked.user.value_or("").size() > 5)
         throw CLI::ValidationError("--user", "more than 5 bytes");
-    if (connection.ownerPrefix.size() > 50)
+    if (asked.ownerPrefix.value_or("").size() > 50)
         throw CLI::ValidationError("--owner", "more than 50 bytes");
+}
+
+void findDatabase(BatchOptions* options)
+{
+    if (options->run && options->database == DatabaseNeed::None)
+        return;
+    Settings settings;
+    std::string problem = readSettings(&settings);
+    if (!problem.empty())
+        std::cerr << "zonaris: " << problem << '\n';
+    problem = resolve(options, settings);
+    if (!problem.empty())
+        throw CLI::ValidationError("--connect", problem);
     if (!options->run)
         return;
-    if (options->database == DatabaseNeed::Create && connection.databaseFile.empty())
+    if (options->database == DatabaseNeed::Create && options->connection.databaseFile.empty())
         throw CLI::ValidationError("create", "name the file to create");
-    if (options->database == DatabaseNeed::Open && !connection.isNamed())
-        throw CLI::ValidationError("no database", "name it with --database or --connect");
+    if ((options->database == DatabaseNeed::Open || options->database == DatabaseNeed::AsIs)
+        && !options->connection.isNamed())
+        throw CLI::ValidationError("no database", noDatabase(settings));
+}
+
+// What was typed may hold a password, and the message repeats it.
+int tellEnd(CLI::App& app, const CLI::ParseError& end)
+{
+    std::ostringstream problem;
+    if (app.exit(end, std::cout, problem) == 0)
+        return kDone;
+    const std::string text = withoutSecrets(problem.str());
+    std::cerr << text << (text.ends_with('\n') ? "" : "\n");
+    return kWrongUsage;
 }
 
 } // namespace
@@ -106,17 +163,18 @@ std::optional<int> readCommandLine(int argc, const char* const* argv, BatchOptio
 {
     CLI::App app(kAbout, "zonaris");
     app.footer(kExamples);
-    app.set_version_flag("--version", "zonaris " ZONARIS_VERSION);
+    app.set_version_flag("--version", programVersion());
     app.require_subcommand(0, 1);
-    addConnectionOptions(app, &options->connection);
+    addConnectionOptions(app, &options->asked);
     for (const auto addOne : kCommands)
         addOne(app, options);
     addPictureOptions(app, &options->picture);
     try {
         app.parse(argc, argv);
-        checkTogether(options);
+        checkTogether(*options);
+        findDatabase(options);
     } catch (const CLI::ParseError& end) {
-        return app.exit(end, std::cout, std::cerr) == 0 ? kDone : kWrongUsage;
+        return tellEnd(app, end);
     }
     return std::nullopt;
 }

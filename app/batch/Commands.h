@@ -36,3 +36,8 @@ void addPicks(CLI::App& app, BatchOptions* options);
 void addTaxa(CLI::App& app, BatchOptions* options);
 void addTaxon(CLI::App& app, BatchOptions* options);
 void addAbundance(CLI::App& app, BatchOptions* options);
+void addPref(CLI::App& app, BatchOptions* options);
+void addConnections(CLI::App& app, BatchOptions* options);
+void addConnection(CLI::App& app, BatchOptions* options);
+void addBackup(CLI::App& app, BatchOptions* options);
+void addDoctor(CLI::App& app, BatchOptions* options);

@@ -3,7 +3,10 @@
 
 #include "app/batch/Failure.h"
 #include "app/shell/OpenDatabase.h"
+#include "app/shell/SettingsFile.h"
 #include "db/Session.h"
+
+#include <iostream>
 
 namespace {
 
@@ -12,12 +15,30 @@ public:
     ~SessionEnd() { dbDisconnect(); }
 };
 
+std::string openForWork(const ConnectionSettings& connection)
+{
+    std::string notice;
+    const std::string problem = openDatabase(connection, &notice);
+    if (!notice.empty())
+        std::cerr << "zonaris: " << notice << '\n';
+    return problem;
+}
+
+bool opensNothing(const BatchOptions& options)
+{
+    return options.database == DatabaseNeed::None || options.database == DatabaseNeed::ByItself
+        || !options.connection.isNamed();
+}
+
 // Why there is no session; empty when there is one, or none is wanted.
 std::string openFor(const BatchOptions& options)
 {
     if (options.database == DatabaseNeed::Create)
         return createDatabaseFile(options.connection, options.fill);
-    return options.connection.isNamed() ? openDatabase(options.connection) : "";
+    if (opensNothing(options))
+        return {};
+    return options.database == DatabaseNeed::AsIs ? connectDatabase(options.connection)
+                                                  : openForWork(options.connection);
 }
 
 } // namespace
@@ -26,5 +47,9 @@ int runCommand(const BatchOptions& options)
 {
     const SessionEnd end;
     const std::string problem = openFor(options);
-    return problem.empty() ? options.run() : failed(problem);
+    if (!problem.empty())
+        return failed(problem);
+    if (!opensNothing(options))
+        rememberDatabase(options.connection);
+    return options.run();
 }
