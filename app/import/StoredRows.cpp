@@ -140,13 +140,13 @@ Outcome StoredRows::put(
         known.front().rest = rest;
         *own = known.front().own;
         setOwn();
-        return writing_ == Writing::Check || update(row) ? Outcome::Changed : Outcome::Failed;
+        return write(row, Outcome::Changed) ? Outcome::Changed : Outcome::Failed;
     }
     if (table_.own() >= 0 && !allocate(row, own))
         return Outcome::Failed;
     setOwn();
     remember(row, source);
-    return writing_ == Writing::Check || insert(row) ? Outcome::New : Outcome::Failed;
+    return write(row, Outcome::New) ? Outcome::New : Outcome::Failed;
 }
 
 bool StoredRows::allocate(const RowTexts& row, std::optional<long>* own)
@@ -191,21 +191,32 @@ std::optional<bool> StoredRows::has(long own)
     return count != Value(0L);
 }
 
-std::vector<const TableField*> StoredRows::fieldsThere()
+// Where the table may lack columns, which it has is asked only when writing all of them failed: a
+// failed question counts as absence.
+bool StoredRows::write(const RowTexts& row, Outcome as)
 {
-    if (there_.empty())
-        for (const TableField& field : table_.fields)
-            if (!table_.mayLackColumns || columnExists(table_.name, field.column) != 0)
-                there_.push_back(&field);
-    return there_;
+    if (writing_ == Writing::Check)
+        return true;
+    const auto run = [&](const Fields& fields) {
+        return as == Outcome::New ? insert(row, fields) : update(row, fields);
+    };
+    Fields fields;
+    for (const TableField& field : table_.fields)
+        fields.push_back(&field);
+    if (run(fields) || !table_.mayLackColumns)
+        return error_.empty();
+    error_.clear();
+    std::erase_if(fields,
+        [&](const TableField* field) { return columnExists(table_.name, field->column) == 0; });
+    return run(fields);
 }
 
-bool StoredRows::insert(const RowTexts& row)
+bool StoredRows::insert(const RowTexts& row, const Fields& fields)
 {
     std::string columns;
     std::string markers;
     std::vector<Value> values;
-    eachColumn(fieldsThere(), [&](const TableField& field, const char* column) {
+    eachColumn(fields, [&](const TableField& field, const char* column) {
         const auto place = static_cast<std::size_t>(&field - table_.fields.data());
         columns.append(columns.empty() ? "" : ",").append(column);
         markers += markers.empty() ? "?" : ",?";
@@ -218,14 +229,14 @@ bool StoredRows::insert(const RowTexts& row)
     return run(insert);
 }
 
-bool StoredRows::update(const RowTexts& row)
+bool StoredRows::update(const RowTexts& row, const Fields& fields)
 {
     std::string changes;
     std::string key;
     std::vector<Value> values;
     std::vector<Value> keys;
     const bool byOwn = table_.own() >= 0;
-    eachColumn(fieldsThere(), [&](const TableField& field, const char* column) {
+    eachColumn(fields, [&](const TableField& field, const char* column) {
         const auto place = static_cast<std::size_t>(&field - table_.fields.data());
         const bool finds = byOwn
             ? field.kind == FieldKind::Own || (table_.numbersPerWell && place == 0)

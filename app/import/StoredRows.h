@@ -43,9 +43,10 @@ private:
     std::string restOf(const RowTexts& row) const;
     bool allocate(const RowTexts& row, std::optional<long>* own);
     bool allocateInWell(const RowTexts& row, std::optional<long>* own);
-    std::vector<const TableField*> fieldsThere();
-    bool insert(const RowTexts& row);
-    bool update(const RowTexts& row);
+    using Fields = std::vector<const TableField*>;
+    bool write(const RowTexts& row, Outcome as);
+    bool insert(const RowTexts& row, const Fields& fields);
+    bool update(const RowTexts& row, const Fields& fields);
     bool run(Statement& statement);
     Statement& prepared(const std::string& sql);
 
@@ -57,7 +58,6 @@ private:
     std::set<std::optional<std::string>> loaded_;   // wells, or nothing for a table without
     std::unordered_map<std::string, long> largest_; // numbers within wells
     std::set<long> kept_;                           // numbers of a table that keeps them
-    std::vector<const TableField*> there_;
     std::unordered_map<std::string, std::unique_ptr<Statement>> statements_;
     std::string error_;
 };

@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -30,11 +31,14 @@ bool isWhole(FieldKind kind)
     return kind == FieldKind::Whole || kind == FieldKind::Own || kind == FieldKind::Reference;
 }
 
-std::string columnList(const TableFile& table)
+// A failed question counts as absence, so columns are asked for only where all of them failed.
+enum class Columns { All, ThoseThere };
+
+std::string columnList(const TableFile& table, Columns which)
 {
     std::string list;
     for (const TableField& field : table.fields) {
-        const bool isThere = !table.mayLackColumns || columnExists(table.name, field.column) != 0;
+        const bool isThere = which == Columns::All || columnExists(table.name, field.column) != 0;
         list.append(list.empty() ? "" : ",").append(isThere ? field.column : "NULL");
     }
     return list;
@@ -87,12 +91,21 @@ RowFilter whereIs(const char* column, const Value& value)
 bool readRows(const TableFile& table, const RowFilter& filter,
     const std::function<void(RowTexts&)>& take, std::string* error)
 {
-    Statement select("SELECT " + columnList(table) + " FROM " + sql::table(table.name)
-        + (filter.where.empty() ? "" : " WHERE ") + filter.where);
-    int n = 0;
-    for (const Value& value : filter.values)
-        select.bind(++n, value);
-    bool good = select.execute();
+    const auto prepared = [&](Columns which) {
+        auto select = std::make_unique<Statement>("SELECT " + columnList(table, which) + " FROM "
+            + sql::table(table.name) + (filter.where.empty() ? "" : " WHERE ") + filter.where);
+        int n = 0;
+        for (const Value& value : filter.values)
+            select->bind(++n, value);
+        return select;
+    };
+    auto owner = prepared(Columns::All);
+    bool good = owner->execute();
+    if (!good && table.mayLackColumns) {
+        owner = prepared(Columns::ThoseThere);
+        good = owner->execute();
+    }
+    Statement& select = *owner;
     RowTexts row(table.fields.size());
     Statement::Row state = Statement::Row::Failed;
     while (good && (state = select.fetch()) == Statement::Row::Fetched) {

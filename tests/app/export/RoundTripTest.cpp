@@ -130,4 +130,48 @@ TEST(TableImport, FindsRowsByTheirKeys)
     EXPECT_EQ(0, importFiles({{folder.path()}, false}, log).stored());
 }
 
+// A site's own headers have the columns that it knows.
+TEST(TableImport, ReadsAndWritesTheColumnsThatAreThere)
+{
+    TestDatabase db;
+    db.run("DROP TABLE WELLS_MASTER");
+    db.run("CREATE TABLE WELLS_MASTER (well_code VARCHAR(25), FIELD VARCHAR(20))");
+    db.run("INSERT INTO WELLS_MASTER (well_code, FIELD) VALUES ('A', 'Old')");
+    const Folder folder;
+    std::string master = exported({folder.path()}).at("wells_master.csv");
+    EXPECT_THAT(master, HasSubstr("\nA,,,,,,Old,,"));
+    master.replace(master.find("Old"), 3, "New");
+    folder.write("wells_master.csv", master + "B" + std::string(21, ',') + "\n");
+    IssueLog log;
+    const ImportResult result = importFiles({{folder.path()}, false}, log);
+    EXPECT_EQ("", result.failure);
+    EXPECT_EQ(2, result.stored());
+    EXPECT_THAT(
+        db.rows("SELECT * FROM WELLS_MASTER ORDER BY 1"), testing::ElementsAre("A|New", "B|NULL"));
+}
+
+// Each call of the driver failing: all is stored or nothing, and the failure is told.
+TEST(TableImport, EachDriverCallFailing)
+{
+    const Folder folder;
+    folder.write("well_ident.csv", "well_id,well_code,descrip\n1,A,new\n2,B,\n");
+    folder.write("casing.csv", "well_code,depth_m,diam\nA,10,20\nB,?,20\nB,11,20\n");
+    const std::string sql = "SELECT i.well_id, well_code, descrip, depth FROM WELL_IDENT i LEFT "
+                            "JOIN CASING c ON c.well_id = i.well_id ORDER BY 1";
+    for (int n = 1;; n += 2) {
+        TestDatabase db;
+        db.run("INSERT INTO WELL_IDENT (well_id, well_code, descrip) VALUES (9, 'A', 'old')");
+        const DriverFault fault(n);
+        IssueLog log;
+        const std::string failure = importFiles({{folder.path()}, false}, log).failure;
+        const std::string what = std::to_string(n) + ' ' + fault.call() + ": " + failure;
+        if (failure.empty())
+            EXPECT_THAT(db.rows(sql), testing::ElementsAre("9|A|new|10", "10|B|NULL|11")) << what;
+        else
+            EXPECT_THAT(db.rows(sql), testing::ElementsAre("9|A|old|NULL")) << what;
+        if (!fault.fired())
+            break;
+    }
+}
+
 } // namespace
