@@ -14,9 +14,9 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// Waits for other writers, as long as the database does, and keeps them out until the end: what
-    /// is read from here on stays true. False: `error`. Databases that lock single rows keep nobody
-    /// out.
+    /// Waits for other writers, as long as the database does, and keeps them out until the end:
+    /// what is read from here on stays true. False: `error`. Databases that lock single rows keep
+    /// nobody out.
     bool lock();
     /// Makes the changes permanent. False: nothing of it was kept, and `error` has the database's
     /// text. Unlike the session's own commit it takes no notice of open cursors.
