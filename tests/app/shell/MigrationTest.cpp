@@ -158,17 +158,33 @@ TEST_F(Migrating, EachDriverCallFailingLeavesTheFileAsItWas)
     EXPECT_GT(kept, 5) << "failures behind the copy";
 }
 
-// Another process, as two connections of one process would not wait for each other's files.
+// Both have seen the old version and wait for a writer when the first of them begins.
 TEST_F(Migrating, OfTwoProcessesOneConvertsAndTheOtherWaits)
 {
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(openDatabase(settings).empty() ? 0 : 1);
-    EXPECT_EQ("", openDatabase(settings));
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(0, status);
+    const auto start = [&] {
+        const pid_t child = fork();
+        if (child == 0) {
+            usleep(300'000);
+            _exit(openDatabase(settings).empty() ? 0 : 1);
+        }
+        return child;
+    };
+    const pid_t children[] = {start(), start()};
+    {
+        OdbcConnection writer(driver_control::connectString(file(), "Access"));
+        writer.begin();
+        writer.run("UPDATE WELLS SET well_name = 'last'");
+        usleep(1'200'000);
+        writer.commit();
+    }
+    for (const pid_t child : children) {
+        int status = -1;
+        waitpid(child, &status, 0);
+        EXPECT_EQ(0, status);
+    }
     EXPECT_EQ("2", version(file()));
+    EXPECT_EQ(
+        lines(file(".v1.bak"), "SELECT well_name FROM WELLS"), std::vector<std::string>{"last"});
     EXPECT_FALSE(fs::exists(file(".v1.bak2"))) << "converted once";
 }
 
