@@ -2,9 +2,9 @@
 #include "app/OpenMainWindow.h"
 
 #include "app/shell/FindWell.h"
-#include "app/shell/OpenDatabase.h"
 #include "app/shell/SettingsFile.h"
 #include "app/window/MainWindow.h"
+#include "app/window/OpenAndRemember.h"
 #include "app/window/WellsPage.h"
 #include "db/ErrorReporter.h"
 #include "db/Session.h"
@@ -46,22 +46,10 @@ ConnectionSettings lastUsed(ConnectionSettings settings)
     return settings;
 }
 
-// A conversion is told, since it left a second file.
-std::string openAndTell(const ConnectionSettings& settings)
-{
-    std::string notice;
-    const std::string error = settings.isNamed() ? openDatabase(settings, &notice) : std::string();
-    if (!notice.empty())
-        reportError(notice);
-    if (error.empty() && settings.isNamed())
-        rememberDatabase(settings);
-    return error;
-}
-
 /// Null after a reported failure, unless nobody asked for this database: then without one.
 std::unique_ptr<MainWindow> makeWindow(ConnectionSettings settings, bool asked = true)
 {
-    const std::string error = openAndTell(settings);
+    const std::string error = settings.isNamed() ? openAndRemember(settings) : std::string();
     if (!error.empty()) {
         reportError(error);
         if (asked)

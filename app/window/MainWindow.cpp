@@ -1,10 +1,11 @@
 // app/window/MainWindow.cpp
 #include "app/window/MainWindow.h"
 
-#include "app/shell/OpenDatabase.h"
 #include "app/window/Clipboard.h"
+#include "app/window/OpenAndRemember.h"
 #include "app/window/Page.h"
 #include "app/window/ProgramArguments.h"
+#include "app/window/RecentMenu.h"
 #include "app/window/TaxaPage.h"
 #include "app/window/WellsPage.h"
 #include "db/ErrorReporter.h"
@@ -81,6 +82,9 @@ void MainWindow::makeFileMenu()
     QMenu* menu = menuBar()->addMenu(tr("&File"));
     QAction* open = menu->addAction(tr("&Open database..."), this, &MainWindow::chooseFile);
     open->setShortcut(QKeySequence::Open);
+    auto* recent = new RecentMenu(tr("Open &recent"), menu);
+    connect(recent, &RecentMenu::chosen, this, &MainWindow::openFile);
+    menu->addMenu(recent);
     menu->addSeparator();
     QAction* quit = menu->addAction(tr("&Quit"), this, &QWidget::close);
     quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -161,7 +165,7 @@ void MainWindow::openFile(const QString& file)
             reportError("Zonaris could not be started for " + wanted.databaseFile);
         return;
     }
-    const std::string error = openDatabase(wanted);
+    const std::string error = openAndRemember(wanted);
     if (!error.empty()) {
         reportError(error);
         return;

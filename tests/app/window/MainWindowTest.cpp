@@ -1,6 +1,11 @@
 // tests/app/window/MainWindowTest.cpp
+#include "app/shell/SettingsFile.h"
+#include "app/window/RecentMenu.h"
 #include "tests/app/window/Cells.h"
 #include "tests/app/window/WindowDesk.h"
+
+#include <cstdlib>
+#include <fstream>
 
 #include <gmock/gmock.h>
 
@@ -90,6 +95,32 @@ TEST_F(MainWindowTest, AnEmptyWindowOpensInPlace)
     EXPECT_THAT(shownRows(*desk.wells().model()), ElementsAre("One|A1", "Two|B2"));
     EXPECT_THAT(desk.started, IsEmpty());
     EXPECT_EQ(desk.window->windowTitle().toStdString(), fileName() + " – Zonaris");
+}
+
+TEST_F(MainWindowTest, OffersTheDatabasesThatWereUsedLast)
+{
+    const std::string settings = desk.db.file() + ".json", gone = desk.db.file() + ".gone";
+    setenv("ZONARIS_SETTINGS", settings.c_str(), 1);
+    desk.openEmpty();
+    const auto recent = [this] {
+        QMenu& menu = *desk.window->findChild<RecentMenu*>();
+        emit menu.aboutToShow();
+        return menu.actions();
+    };
+    EXPECT_EQ("None yet", recent().at(0)->text());
+    EXPECT_FALSE(recent().at(0)->isEnabled());
+    ConnectionSettings other;
+    other.databaseFile = gone;
+    rememberDatabase(other);
+    desk.picked = QString::fromStdString(desk.db.file());
+    desk.act("Open database...");
+    ASSERT_EQ(1, recent().size()) << "the file that is gone is left out";
+    recent().at(0)->trigger();
+    ASSERT_EQ(1u, desk.started.size());
+    EXPECT_EQ(desk.picked, desk.started[0][1]);
+    std::ofstream(settings) << "{";
+    EXPECT_THAT(recent().at(0)->text().toStdString(), HasSubstr(settings));
+    setenv("ZONARIS_SETTINGS", "", 1);
 }
 
 TEST_F(MainWindowTest, SaysHowToFillADatabaseWithoutWells)
